@@ -1,0 +1,9 @@
+// zel-cli: ZEL's generators and file tools without the GUI.
+#include <CLI/CLI.hpp>
+
+int main(int argc, char** argv) {
+  CLI::App app{"ZEL command line: seismic input data without the GUI", "zel-cli"};
+  app.require_subcommand(1);
+  CLI11_PARSE(app, argc, argv);
+  return 0;
+}

@@ -1,0 +1,33 @@
+// The one channel through which the core reports the system's message-box
+// texts. The GUI shows each text modally; tests and the command line collect
+// them in order.
+#ifndef ZEL_CORE_DOCUMENT_MESSAGES_H_
+#define ZEL_CORE_DOCUMENT_MESSAGES_H_
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zel {
+
+class MessageSink {
+ public:
+  virtual ~MessageSink() = default;
+  // Shows one message and returns once the user has acknowledged it.
+  virtual void Show(std::string_view text) = 0;
+};
+
+// Keeps every message in the order shown.
+class MessageLog : public MessageSink {
+ public:
+  void Show(std::string_view text) override { texts_.emplace_back(text); }
+  const std::vector<std::string>& texts() const { return texts_; }
+  void Clear() { texts_.clear(); }
+
+ private:
+  std::vector<std::string> texts_;
+};
+
+}  // namespace zel
+
+#endif  // ZEL_CORE_DOCUMENT_MESSAGES_H_
