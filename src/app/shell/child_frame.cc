@@ -1,0 +1,120 @@
+#include "app/shell/child_frame.h"
+
+#include "app/dialogs/dlg_title.h"
+#include "app/dialogs/dlg_unit.h"
+#include "app/plot/chart_export.h"
+#include "app/shell/zelw_app.h"
+#include "core/document/data_file.h"
+#include "core/document/save_kind.h"
+
+namespace zel::app {
+namespace {
+
+constexpr const char* kSaveFilter =
+    "ZEL Data File (*.zel)|*.zel|BMP Image (*.bmp)|*.bmp|JPEG Image "
+    "(*.jpg)|*.jpg|Enhanced Metafile Image(*.emf)|*.emf||";
+constexpr const char* kNoMetafile =
+    "Saving the chart as an enhanced metafile is not available yet; nothing "
+    "was saved. Choose BMP or JPEG for an image.";
+constexpr const char* kCannotWrite = "ERROR! File Not Found!";
+
+}  // namespace
+
+CChildFrame::CChildFrame(CZELwApp& app, std::unique_ptr<CZELwDoc> doc,
+                         QWidget* parent)
+    : QMdiSubWindow(parent),
+      app_(app),
+      doc_(std::move(doc)),
+      view_(new CZELwView(*doc_, app.ui())) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWidget(view_);
+  setWindowTitle(QString::fromStdString(doc_->window_title));
+  doc_->on_update = [this] {
+    view_->Rebuild();
+    setWindowTitle(QString::fromStdString(doc_->window_title));
+    emit DocumentUpdated();
+  };
+  view_->Rebuild();
+}
+
+CChildFrame::~CChildFrame() { doc_->on_update = nullptr; }
+
+void CChildFrame::OnXScaleLog() {
+  doc_->ToggleLogX();
+  doc_->UpdateAllViews();
+}
+
+void CChildFrame::OnYScaleLog() {
+  doc_->ToggleLogY();
+  doc_->UpdateAllViews();
+}
+
+void CChildFrame::OnXGrid() {
+  doc_->ToggleGridX();
+  doc_->UpdateAllViews();
+}
+
+void CChildFrame::OnYGrid() {
+  doc_->ToggleGridY();
+  doc_->UpdateAllViews();
+}
+
+void CChildFrame::OnDiagonalGrid() {
+  doc_->ToggleDiagonalGrid();
+  doc_->UpdateAllViews();
+}
+
+void CChildFrame::OnLineThickness() {
+  doc_->ApplySeriesStyles();
+  doc_->UpdateAllViews();
+}
+
+void CChildFrame::OnUnit() {
+  DLG_UNIT dialog(this);
+  dialog.SetUnitIndex(doc_->unit_index);
+  if (app_.RunDialog(dialog) != QDialog::Accepted) return;
+  doc_->ConvertUnit(dialog.UnitIndex());
+  doc_->UpdateAllViews();
+}
+
+void CChildFrame::OnEditGraphTitle() {
+  DLG_TITLE dialog(this);
+  dialog.SetMainTitle(QString::fromStdString(doc_->title));
+  dialog.SetSubTitle(QString::fromStdString(doc_->subtitle));
+  if (app_.RunDialog(dialog) == QDialog::Accepted) {
+    doc_->title = dialog.MainTitle().toStdString();
+    doc_->subtitle = dialog.SubTitle().toStdString();
+  }
+  // Refreshed on Cancel too.
+  doc_->RefreshChartTitle();
+  doc_->SetTitle(doc_->title);
+  doc_->UpdateAllViews();
+}
+
+void CChildFrame::OnZoomOutAll() { view_->ZoomOutAll(); }
+
+void CChildFrame::OnFileSave() {
+  Interaction& ui = app_.ui();
+  const QString path =
+      ui.save_file(this, QString::fromLatin1(kSaveFilter), QStringLiteral("zel"));
+  if (path.isEmpty()) return;
+  MessageSink& messages = *ui.messages;
+  switch (SaveKindOfPath(path.toStdString())) {
+    case SaveKind::kDataFile:
+      if (WriteDataFile(*doc_, path.toStdString(), messages)) {
+        app_.AddToRecentFileList(path);
+      }
+      break;
+    case SaveKind::kBitmap:
+      if (!SaveChartImage(*view_, path, "BMP")) messages.Show(kCannotWrite);
+      break;
+    case SaveKind::kJpeg:
+      if (!SaveChartImage(*view_, path, "JPG")) messages.Show(kCannotWrite);
+      break;
+    case SaveKind::kMetafile:
+      messages.Show(kNoMetafile);
+      break;
+  }
+}
+
+}  // namespace zel::app

@@ -1,0 +1,342 @@
+#include "app/shell/main_frame.h"
+
+#include <QAction>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QStatusBar>
+#include <QStyle>
+#include <QToolBar>
+
+#include "app/dialogs/about_box.h"
+#include "app/shell/child_frame.h"
+#include "app/shell/command_table.h"
+#include "app/shell/zelw_app.h"
+#include "core/document/c_format.h"
+#include "core/document/menu_state.h"
+
+namespace zel::app {
+namespace {
+
+bool IsCheckable(int id) {
+  switch (id) {
+    case ID_OPTION_XLOG:
+    case ID_OPTION_YLOG:
+    case ID_OPTION_XGRID:
+    case ID_OPTION_YGRID:
+    case ID_OPTION_DIAGONAL_GRID:
+    case ID_VIEW_TOOLBAR:
+    case ID_VIEW_STATUS_BAR:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool IsGenerate(const CommandEntry& e) {
+  return QLatin1String(e.menu) == QLatin1String("Generate");
+}
+
+void Apply(QAction* action, const CommandState& state) {
+  action->setEnabled(state.enabled);
+  action->setChecked(state.checked);
+}
+
+}  // namespace
+
+CMainFrame::CMainFrame(CZELwApp& app, QWidget* parent)
+    : QMainWindow(parent), app_(app), mdi_(new QMdiArea) {
+  setWindowTitle(QStringLiteral("ZEL"));
+  setObjectName(QStringLiteral("CMainFrame"));
+  mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  mdi_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  setCentralWidget(mdi_);
+  RegisterCommands(commands_);
+  BuildMenus();
+  BuildToolBar();
+  BuildStatusBar();
+  setAcceptDrops(true);
+  connect(mdi_, &QMdiArea::subWindowActivated, this,
+          &CMainFrame::OnActiveChildChanged);
+  connect(&app_, &CZELwApp::RecentFilesChanged, this,
+          &CMainFrame::RebuildRecentFiles);
+  RebuildRecentFiles();
+  UpdateCommandUI();
+
+  resize(1000, 720);
+  if (QScreen* screen = this->screen()) {
+    const QRect area = screen->availableGeometry();
+    resize(size().boundedTo(area.size()));
+    move(area.center() - rect().center());
+  }
+}
+
+CMainFrame::~CMainFrame() = default;
+
+void CMainFrame::BuildMenus() {
+  for (const char* title : MenuTitles()) {
+    menus_[QLatin1String(title)] = menuBar()->addMenu(QLatin1String(title));
+  }
+  for (const CommandEntry& e : CommandTable()) {
+    QMenu* menu = menus_.at(QLatin1String(e.menu));
+    if (e.submenu) {
+      if (!design_menu_) design_menu_ = menu->addMenu(QLatin1String(e.submenu));
+      menu = design_menu_;
+    }
+    QAction* action =
+        e.id == 0 ? menu->addSeparator() : menu->addAction(QLatin1String(e.text));
+    action->setData(e.id);
+    action->setProperty("zel_scope", static_cast<int>(e.scope));
+    if (e.id == 0) continue;
+    action->setStatusTip(QLatin1String(e.prompt));
+    if (*e.shortcut) action->setShortcut(QKeySequence(QLatin1String(e.shortcut)));
+    action->setCheckable(IsCheckable(e.id));
+    const int id = e.id;
+    connect(action, &QAction::triggered, this, [this, id] { OnCommand(id); });
+    actions_[id] = action;
+  }
+  QMenu* file = menus_.at(QStringLiteral("File"));
+  recent_separator_ = file->insertSeparator(actions_.at(ID_APP_EXIT));
+  for (QMenu* menu : menus_) {
+    connect(menu, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommandUI);
+  }
+}
+
+void CMainFrame::BuildToolBar() {
+  tool_bar_ = addToolBar(QStringLiteral("Standard"));
+  tool_bar_->setObjectName(QStringLiteral("Standard"));
+  tool_bar_->setAllowedAreas(Qt::AllToolBarAreas);
+  QStyle* s = style();
+  actions_.at(ID_FILE_OPEN)->setIcon(s->standardIcon(QStyle::SP_DialogOpenButton));
+  actions_.at(ID_FILE_SAVE)->setIcon(s->standardIcon(QStyle::SP_DialogSaveButton));
+  actions_.at(ID_FILE_PRINT)->setIcon(QIcon::fromTheme(
+      QStringLiteral("document-print"),
+      s->standardIcon(QStyle::SP_FileDialogDetailedView)));
+  actions_.at(ID_APP_ABOUT)->setIcon(
+      s->standardIcon(QStyle::SP_MessageBoxQuestion));
+  for (int id : {ID_FILE_OPEN, ID_FILE_SAVE, ID_FILE_PRINT, ID_APP_ABOUT}) {
+    tool_bar_->addAction(actions_.at(id));
+  }
+}
+
+void CMainFrame::BuildStatusBar() {
+  cursor_x_ = new QLabel;
+  cursor_y_ = new QLabel;
+  unit_ = new QLabel;
+  for (QLabel* label : {cursor_x_, cursor_y_, unit_}) {
+    label->setMinimumWidth(110);
+    statusBar()->addPermanentWidget(label);
+  }
+  statusBar()->showMessage(QStringLiteral("Ready"));
+}
+
+void CMainFrame::RebuildRecentFiles() {
+  QMenu* file = menus_.at(QStringLiteral("File"));
+  for (QAction* a : recent_actions_) {
+    file->removeAction(a);
+    delete a;
+  }
+  recent_actions_.clear();
+  const QStringList& files = app_.RecentFiles();
+  for (int i = 0; i < files.size(); ++i) {
+    auto* action = new QAction(QStringLiteral("&%1 %2").arg(i + 1).arg(files[i]),
+                               file);
+    action->setStatusTip(QLatin1String(kRecentFilePrompt));
+    action->setData(ID_FILE_MRU_FILE1 + i);
+    const QString path = files[i];
+    connect(action, &QAction::triggered, this,
+            [this, path] { app_.OpenDocumentFile(path); });
+    file->insertAction(recent_separator_, action);
+    recent_actions_ << action;
+  }
+  // The separator stands between the list and Exit; with no list, the
+  // separator above the list suffices.
+  recent_separator_->setVisible(!files.isEmpty());
+}
+
+CChildFrame* CMainFrame::AddChild(std::unique_ptr<CZELwDoc> doc) {
+  auto* child = new CChildFrame(app_, std::move(doc));
+  mdi_->addSubWindow(child);
+  connect(child, &CChildFrame::DocumentUpdated, this,
+          &CMainFrame::OnActiveChildChanged);
+  connect(&child->GetView(), &ChartWidget::CursorMoved, this,
+          &CMainFrame::OnCursorMoved);
+  const QSize area = mdi_->viewport()->size();
+  child->resize(std::max(480, area.width() * 3 / 4),
+                std::max(360, area.height() * 3 / 4));
+  child->show();
+  mdi_->setActiveSubWindow(child);
+  OnActiveChildChanged();
+  return child;
+}
+
+CChildFrame* CMainFrame::ActiveChild() const {
+  return qobject_cast<CChildFrame*>(mdi_->currentSubWindow());
+}
+
+CZELwDoc* CMainFrame::ActiveDocument() const {
+  CChildFrame* child = ActiveChild();
+  return child ? &child->GetDocument() : nullptr;
+}
+
+QAction* CMainFrame::CommandAction(int id) const {
+  const auto it = actions_.find(id);
+  return it == actions_.end() ? nullptr : it->second;
+}
+
+void CMainFrame::OnCommand(int id) {
+  CChildFrame* child = ActiveChild();
+  switch (id) {
+    case ID_FILE_OPEN:
+      app_.OnFileOpen();
+      break;
+    case ID_APP_EXIT:
+      close();
+      break;
+    case ID_APP_ABOUT: {
+      AboutBox about(this);
+      app_.RunDialog(about);
+      break;
+    }
+    case ID_VIEW_TOOLBAR:
+      tool_bar_->setVisible(!tool_bar_->isVisible());
+      break;
+    case ID_VIEW_STATUS_BAR:
+      statusBar()->setVisible(!statusBar()->isVisible());
+      break;
+    case ID_WINDOW_CASCADE:
+      mdi_->cascadeSubWindows();
+      break;
+    case ID_WINDOW_TILE:
+      mdi_->tileSubWindows();
+      break;
+    default:
+      break;
+  }
+  if (child) {
+    switch (id) {
+      case ID_FILE_CLOSE:
+        child->close();
+        break;
+      case ID_FILE_SAVE:
+        child->OnFileSave();
+        break;
+      case ID_OPTION_XLOG:
+        child->OnXScaleLog();
+        break;
+      case ID_OPTION_YLOG:
+        child->OnYScaleLog();
+        break;
+      case ID_OPTION_XGRID:
+        child->OnXGrid();
+        break;
+      case ID_OPTION_YGRID:
+        child->OnYGrid();
+        break;
+      case ID_OPTION_DIAGONAL_GRID:
+        child->OnDiagonalGrid();
+        break;
+      case ID_OPTION_LINE_THICKNESS:
+        child->OnLineThickness();
+        break;
+      case ID_OPTION_UNIT:
+        child->OnUnit();
+        break;
+      case ID_OPTION_EDIT_TITLE:
+        child->OnEditGraphTitle();
+        break;
+      case ID_VIEW_ZOOM_OUT_ALL:
+        child->OnZoomOutAll();
+        break;
+      default:
+        break;
+    }
+  }
+  // Generate dialogs and the Time<->Frequency switch are registered.
+  commands_.Run(id, *this);
+  UpdateCommandUI();
+}
+
+void CMainFrame::UpdateCommandUI() {
+  const CZELwDoc* doc = ActiveDocument();
+  const bool has_doc = doc != nullptr;
+  for (QMenu* menu : menus_) {
+    bool visible = false;
+    for (QAction* a : menu->actions()) {
+      if (a == recent_separator_ || recent_actions_.contains(a)) continue;
+      const QVariant scope = a->property("zel_scope");
+      if (!scope.isValid()) {  // a submenu
+        visible = visible || a->isVisible();
+        continue;
+      }
+      const auto s = static_cast<MenuScope>(scope.toInt());
+      const bool shown = s == MenuScope::kAlways ||
+                         (s == MenuScope::kWithDocument && has_doc) ||
+                         (s == MenuScope::kWithoutDocument && !has_doc);
+      a->setVisible(shown);
+      visible = visible || (shown && !a->isSeparator());
+    }
+    menu->menuAction()->setVisible(visible);
+  }
+
+  for (const CommandEntry& e : CommandTable()) {
+    if (e.id != 0 && IsGenerate(e)) {
+      actions_.at(e.id)->setEnabled(commands_.Has(e.id));
+    }
+  }
+  // Printing and page setup come with the printing support.
+  for (int id : {ID_FILE_PRINT, ID_FILE_PAGE_SETUP, ID_FILE_PRINT_SETUP}) {
+    actions_.at(id)->setEnabled(commands_.Has(id));
+  }
+  actions_.at(ID_FILE_SAVE)->setEnabled(has_doc);
+  actions_.at(ID_VIEW_TOOLBAR)->setChecked(tool_bar_ && !tool_bar_->isHidden());
+  actions_.at(ID_VIEW_STATUS_BAR)->setChecked(!statusBar()->isHidden());
+
+  if (doc) {
+    const DocumentMenuState state = MenuStateOf(*doc);
+    Apply(actions_.at(ID_OPTION_XLOG), state.x_scale_log);
+    Apply(actions_.at(ID_OPTION_YLOG), state.y_scale_log);
+    Apply(actions_.at(ID_OPTION_XGRID), state.x_grid);
+    Apply(actions_.at(ID_OPTION_YGRID), state.y_grid);
+    Apply(actions_.at(ID_OPTION_DIAGONAL_GRID), state.diagonal_grid);
+    actions_.at(ID_OPTION_UNIT)->setEnabled(state.unit.enabled);
+    actions_.at(ID_VIEW_TIME_FREQUENCY)
+        ->setEnabled(state.time_frequency.enabled &&
+                     commands_.Has(ID_VIEW_TIME_FREQUENCY));
+  }
+}
+
+void CMainFrame::OnActiveChildChanged() {
+  const CZELwDoc* doc = ActiveDocument();
+  QString title = QStringLiteral("ZEL");
+  if (doc) title += QStringLiteral(" - ") + QString::fromStdString(doc->window_title);
+  setWindowTitle(title);
+  unit_->setText(doc ? QString::fromStdString(doc->unit + " " + doc->type)
+                     : QString());
+  cursor_x_->clear();
+  cursor_y_->clear();
+  UpdateCommandUI();
+}
+
+void CMainFrame::OnCursorMoved(double x, double y) {
+  cursor_x_->setText(QString::fromStdString(CFormat("X: %g", x)));
+  cursor_y_->setText(QString::fromStdString(CFormat("Y: %g", y)));
+}
+
+void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void CMainFrame::dropEvent(QDropEvent* event) {
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) app_.OpenDocumentFile(url.toLocalFile());
+  }
+  event->acceptProposedAction();
+}
+
+}  // namespace zel::app

@@ -1,0 +1,81 @@
+#include "app/shell/zelw_app.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <cstdio>
+
+#include "app/shell/child_frame.h"
+#include "app/shell/command_table.h"
+#include "app/shell/main_frame.h"
+#include "core/document/data_file.h"
+
+namespace zel::app {
+namespace {
+
+constexpr const char* kOpenFilter =
+    "ZEL Files (*.zel)|*.zel|ALL Files (*.*)|*.*|";
+constexpr const char* kReadFailed = "An Error occured while reading data";
+constexpr const char* kFileNotFound = "ERROR! File Not Found!";
+
+}  // namespace
+
+CZELwApp::CZELwApp(Interaction ui, QObject* parent)
+    : QObject(parent), ui_(std::move(ui)), recent_files_(kRecentFileCount) {}
+
+CZELwApp::~CZELwApp() = default;
+
+bool CZELwApp::InitInstance(const QStringList& arguments) {
+  recent_files_.Load();
+  main_frame_ = std::make_unique<CMainFrame>(*this);
+  // No empty document at start; a file named on the command line opens
+  // through the framework's path.
+  for (const QString& arg : arguments) {
+    if (arg.startsWith(QLatin1Char('-'))) continue;
+    OpenDocumentFile(arg);
+    break;
+  }
+  main_frame_->show();
+  return true;
+}
+
+CZELwDoc* CZELwApp::NewDocument(int mode) {
+  new_document_mode_ = mode;
+  auto doc = std::make_unique<CZELwDoc>();
+  doc->SetTitle("ZEL" + std::to_string(++untitled_count_));
+  return &main_frame_->AddChild(std::move(doc))->GetDocument();
+}
+
+void CZELwApp::OnFileOpen() {
+  new_document_mode_ = kNewDocumentFromFile;
+  const QString path =
+      ui_.open_file(main_frame_.get(), QString::fromLatin1(kOpenFilter));
+  if (path.isEmpty()) return;
+  std::FILE* file = std::fopen(QFile::encodeName(path).constData(), "r");
+  if (!file) {
+    messages().Show(kFileNotFound);
+    return;
+  }
+  CZELwDoc* doc = NewDocument(kNewDocumentFromFile);
+  if (ReadDataFile(*doc, file, messages()) == 0) messages().Show(kReadFailed);
+  AddToRecentFileList(path);
+}
+
+CZELwDoc* CZELwApp::OpenDocumentFile(const QString& path) {
+  if (!QFileInfo(path).isFile()) {
+    messages().Show(kFileNotFound);
+    return nullptr;
+  }
+  CZELwDoc* doc = NewDocument(new_document_mode_);
+  doc->SetTitle(QFileInfo(path).fileName().toStdString());
+  doc->UpdateAllViews();
+  AddToRecentFileList(path);
+  return doc;
+}
+
+void CZELwApp::AddToRecentFileList(const QString& path) {
+  recent_files_.Add(path);
+  recent_files_.Save();
+  emit RecentFilesChanged();
+}
+
+}  // namespace zel::app

@@ -1,0 +1,84 @@
+// CZELwApp: the application object. It starts the program, makes new
+// documents (the framework's File New) under a new-document mode, opens data
+// files, keeps the recent-file list and the follow-up values that the record
+// dialogs leave for the next new document.
+#ifndef ZEL_APP_SHELL_ZELW_APP_H_
+#define ZEL_APP_SHELL_ZELW_APP_H_
+
+#include <QObject>
+#include <QStringList>
+#include <memory>
+#include <string>
+
+#include "app/shell/interaction.h"
+#include "app/shell/recent_files.h"
+#include "core/document/curve_document.h"
+
+class QDialog;
+
+namespace zel::app {
+
+class CMainFrame;
+
+// New-document modes: what the next new document will hold.
+inline constexpr int kNewDocumentDesignSpectrum = 2;
+inline constexpr int kNewDocumentFromFile = 9;
+
+class CZELwApp : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit CZELwApp(Interaction ui, QObject* parent = nullptr);
+  ~CZELwApp() override;
+
+  // Start-up: recent-file list, main frame, then a file named on the command
+  // line (`arguments` without the program name). Shows the main window.
+  bool InitInstance(const QStringList& arguments);
+
+  CMainFrame* GetMainFrame() { return main_frame_.get(); }
+  Interaction& ui() { return ui_; }
+  MessageSink& messages() { return *ui_.messages; }
+  // Runs a modal dialog through the replaceable dialog runner.
+  int RunDialog(QDialog& dialog) { return ui_.run_dialog(dialog); }
+
+  // File New: sets the new-document mode, makes an empty document in a new
+  // child window and makes it active. Returns the new document.
+  CZELwDoc* NewDocument(int mode);
+  int new_document_mode() const { return new_document_mode_; }
+
+  // Follow-up values left by the record dialogs for the next new document.
+  void SetSpectrumFollows(bool on) { spectrum_follows_ = on; }
+  bool spectrum_follows() const { return spectrum_follows_; }
+  void SetTripartiteFollows(bool on) { tripartite_follows_ = on; }
+  bool tripartite_follows() const { return tripartite_follows_; }
+  void SetRecordPath(const std::string& path) { record_path_ = path; }
+  const std::string& record_path() const { return record_path_; }
+
+  // File Open: asks for a file, makes a new document and reads the file
+  // into it. A document that failed to read stays open.
+  void OnFileOpen();
+  // The framework's own opening (recent-file list, a dropped file, the
+  // command line): an empty chart titled with the file's name. Only File Open
+  // reads the data file; this is kept as it is.
+  CZELwDoc* OpenDocumentFile(const QString& path);
+
+  const QStringList& RecentFiles() const { return recent_files_.files(); }
+  void AddToRecentFileList(const QString& path);
+
+ signals:
+  void RecentFilesChanged();
+
+ private:
+  Interaction ui_;
+  RecentFileList recent_files_;
+  std::unique_ptr<CMainFrame> main_frame_;
+  int new_document_mode_ = 0;
+  int untitled_count_ = 0;
+  bool spectrum_follows_ = false;
+  bool tripartite_follows_ = false;
+  std::string record_path_;
+};
+
+}  // namespace zel::app
+
+#endif  // ZEL_APP_SHELL_ZELW_APP_H_

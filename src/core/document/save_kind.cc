@@ -1,0 +1,18 @@
+#include "core/document/save_kind.h"
+
+namespace zel {
+
+SaveKind SaveKindOfPath(std::string_view path) {
+  const std::size_t slash = path.find_last_of("/\\");
+  const std::string_view name =
+      slash == std::string_view::npos ? path : path.substr(slash + 1);
+  const std::size_t dot = name.rfind('.');
+  if (dot == std::string_view::npos) return SaveKind::kDataFile;
+  const std::string_view ext = name.substr(dot + 1);
+  if (ext == "bmp" || ext == "BMP") return SaveKind::kBitmap;
+  if (ext == "jpg" || ext == "JPG") return SaveKind::kJpeg;
+  if (ext == "emf" || ext == "EMF") return SaveKind::kMetafile;
+  return SaveKind::kDataFile;
+}
+
+}  // namespace zel
