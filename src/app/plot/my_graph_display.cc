@@ -72,11 +72,12 @@ void MyGraphDisplay::draw(QCPPainter* painter) {
   painter->setBrush(Qt::NoBrush);
   const int right = r.left() + r.width();
   const int bottom = r.top() + r.height();
+  QPainter& surface = *painter;  // whole-pixel lines
   if (style_.y_grid && !y_ticks.isEmpty()) {
-    for (int y : y_ticks) painter->drawLine(r.left(), y, right, y);
+    for (int y : y_ticks) surface.drawLine(r.left(), y, right, y);
   }
   if (style_.x_grid && !x_ticks.isEmpty()) {
-    for (int x : x_ticks) painter->drawLine(x, bottom, x, r.top());
+    for (int x : x_ticks) surface.drawLine(x, bottom, x, r.top());
   }
 
   if (diagonal_grid_) DrawDiagonalGrid(painter);
@@ -91,11 +92,12 @@ void MyGraphDisplay::DrawTicks(QCPPainter* painter, const QVector<int>& pixels,
   painter->setPen(QPen(style_.frame_colour, 1));
   const QRect r = PlotRect();
   const int bottom = r.top() + r.height();
+  QPainter& surface = *painter;
   for (int p : pixels) {
     if (vertical_axis) {
-      painter->drawLine(r.left(), p, r.left() + size, p);
+      surface.drawLine(r.left(), p, r.left() + size, p);
     } else {
-      painter->drawLine(p, bottom, p, bottom - size);
+      surface.drawLine(p, bottom, p, bottom - size);
     }
   }
 }

@@ -102,7 +102,7 @@ void CMainFrame::BuildMenus() {
   }
   QMenu* file = menus_.at(QStringLiteral("File"));
   recent_separator_ = file->insertSeparator(actions_.at(ID_APP_EXIT));
-  for (QMenu* menu : menus_) {
+  for (const auto& [name, menu] : menus_) {
     connect(menu, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommandUI);
   }
 }
@@ -265,7 +265,7 @@ void CMainFrame::OnCommand(int id) {
 void CMainFrame::UpdateCommandUI() {
   const CZELwDoc* doc = ActiveDocument();
   const bool has_doc = doc != nullptr;
-  for (QMenu* menu : menus_) {
+  for (const auto& [name, menu] : menus_) {
     bool visible = false;
     for (QAction* a : menu->actions()) {
       if (a == recent_separator_ || recent_actions_.contains(a)) continue;
