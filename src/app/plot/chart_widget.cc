@@ -32,7 +32,11 @@ ChartWidget::ChartWidget(const CZELwDoc& doc, QWidget* parent)
 
 void ChartWidget::SetUpAxes() {
   for (QCPAxis* axis : {xAxis, yAxis}) {
-    axis->setTicks(false);  // MyGraphDisplay draws ticks, frame and grid
+    // MyGraphDisplay draws ticks, frame and grid; the axes keep only their
+    // tick labels (which the library draws only while ticks are on).
+    axis->setTicks(true);
+    axis->setTickPen(Qt::NoPen);
+    axis->setTickLength(0, 0);
     axis->setSubTicks(false);
     axis->setBasePen(Qt::NoPen);
     axis->grid()->setVisible(false);
@@ -125,8 +129,7 @@ void ChartWidget::AddLabels() {
     auto* item = new QCPItemText(this);
     item->setClipToAxisRect(false);
     item->position->setType(QCPItemPosition::ptViewportRatio);
-    item->position->setCoords(label.x_percent / 100.0,
-                              label.y_percent / 100.0);
+    item->position->setCoords(label.x_percent / 100.0, label.y_percent / 100.0);
     item->setPositionAlignment(Qt::AlignLeft | Qt::AlignTop);
     item->setTextAlignment(Qt::AlignLeft);
     QString text = Text(label.content);
@@ -164,7 +167,8 @@ ChartWidget::Fingerprint ChartWidget::TakeFingerprint() const {
 
 void ChartWidget::FitRanges() {
   std::vector<PlotSeries> series;
-  for (int c = 0; c < kMaxCurves; ++c) series.push_back(DrawablePoints(doc_, c));
+  for (int c = 0; c < kMaxCurves; ++c)
+    series.push_back(DrawablePoints(doc_, c));
   const ChartRanges r = FitChartRanges(doc_, series);
   xAxis->setRange(r.x.lower, r.x.upper);
   yAxis->setRange(r.y.lower, r.y.upper);
@@ -184,8 +188,8 @@ void ChartWidget::paintEvent(QPaintEvent* event) {
   const QRect r = display_->PlotRect();
   const int right = r.left() + r.width();
   const int bottom = r.top() + r.height();
-  painter.drawRect(QRect(QPoint(r.left() - 1, r.top() - 1),
-                         QPoint(right + 2, bottom + 2)));
+  painter.drawRect(
+      QRect(QPoint(r.left() - 1, r.top() - 1), QPoint(right + 2, bottom + 2)));
 }
 
 void ChartWidget::mouseMoveEvent(QMouseEvent* event) {

@@ -37,7 +37,10 @@ CChildFrame::CChildFrame(CZELwApp& app, std::unique_ptr<CZELwDoc> doc,
   view_->Rebuild();
 }
 
-CChildFrame::~CChildFrame() { doc_->on_update = nullptr; }
+CChildFrame::~CChildFrame() {
+  doc_->on_update = nullptr;
+  delete view_;  // before the document it draws
+}
 
 void CChildFrame::OnXScaleLog() {
   doc_->ToggleLogX();
@@ -95,8 +98,8 @@ void CChildFrame::OnZoomOutAll() { view_->ZoomOutAll(); }
 
 void CChildFrame::OnFileSave() {
   Interaction& ui = app_.ui();
-  const QString path =
-      ui.save_file(this, QString::fromLatin1(kSaveFilter), QStringLiteral("zel"));
+  const QString path = ui.save_file(this, QString::fromLatin1(kSaveFilter),
+                                    QStringLiteral("zel"));
   if (path.isEmpty()) return;
   MessageSink& messages = *ui.messages;
   switch (SaveKindOfPath(path.toStdString())) {

@@ -64,11 +64,11 @@ enum CommandId : int {
 enum class MenuScope { kAlways, kWithDocument, kWithoutDocument };
 
 struct CommandEntry {
-  const char* menu;    // top-level menu
-  const char* submenu; // nullptr, or the submenu holding the item
-  const char* text;    // item text
-  int id;              // 0 for a separator
-  const char* prompt;  // status-bar prompt; "" when there is none
+  const char* menu;      // top-level menu
+  const char* submenu;   // nullptr, or the submenu holding the item
+  const char* text;      // item text
+  int id;                // 0 for a separator
+  const char* prompt;    // status-bar prompt; "" when there is none
   const char* shortcut;  // "" when there is none
   MenuScope scope;
 };

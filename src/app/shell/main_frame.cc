@@ -76,7 +76,11 @@ CMainFrame::CMainFrame(CZELwApp& app, QWidget* parent)
   }
 }
 
-CMainFrame::~CMainFrame() = default;
+CMainFrame::~CMainFrame() {
+  // Closing the children activates others; nothing here may react any more.
+  disconnect(mdi_, nullptr, this, nullptr);
+  delete mdi_;
+}
 
 void CMainFrame::BuildMenus() {
   for (const char* title : MenuTitles()) {
@@ -88,13 +92,14 @@ void CMainFrame::BuildMenus() {
       if (!design_menu_) design_menu_ = menu->addMenu(QLatin1String(e.submenu));
       menu = design_menu_;
     }
-    QAction* action =
-        e.id == 0 ? menu->addSeparator() : menu->addAction(QLatin1String(e.text));
+    QAction* action = e.id == 0 ? menu->addSeparator()
+                                : menu->addAction(QLatin1String(e.text));
     action->setData(e.id);
     action->setProperty("zel_scope", static_cast<int>(e.scope));
     if (e.id == 0) continue;
     action->setStatusTip(QLatin1String(e.prompt));
-    if (*e.shortcut) action->setShortcut(QKeySequence(QLatin1String(e.shortcut)));
+    if (*e.shortcut)
+      action->setShortcut(QKeySequence(QLatin1String(e.shortcut)));
     action->setCheckable(IsCheckable(e.id));
     const int id = e.id;
     connect(action, &QAction::triggered, this, [this, id] { OnCommand(id); });
@@ -112,13 +117,16 @@ void CMainFrame::BuildToolBar() {
   tool_bar_->setObjectName(QStringLiteral("Standard"));
   tool_bar_->setAllowedAreas(Qt::AllToolBarAreas);
   QStyle* s = style();
-  actions_.at(ID_FILE_OPEN)->setIcon(s->standardIcon(QStyle::SP_DialogOpenButton));
-  actions_.at(ID_FILE_SAVE)->setIcon(s->standardIcon(QStyle::SP_DialogSaveButton));
-  actions_.at(ID_FILE_PRINT)->setIcon(QIcon::fromTheme(
-      QStringLiteral("document-print"),
-      s->standardIcon(QStyle::SP_FileDialogDetailedView)));
-  actions_.at(ID_APP_ABOUT)->setIcon(
-      s->standardIcon(QStyle::SP_MessageBoxQuestion));
+  actions_.at(ID_FILE_OPEN)
+      ->setIcon(s->standardIcon(QStyle::SP_DialogOpenButton));
+  actions_.at(ID_FILE_SAVE)
+      ->setIcon(s->standardIcon(QStyle::SP_DialogSaveButton));
+  actions_.at(ID_FILE_PRINT)
+      ->setIcon(
+          QIcon::fromTheme(QStringLiteral("document-print"),
+                           s->standardIcon(QStyle::SP_FileDialogDetailedView)));
+  actions_.at(ID_APP_ABOUT)
+      ->setIcon(s->standardIcon(QStyle::SP_MessageBoxQuestion));
   for (int id : {ID_FILE_OPEN, ID_FILE_SAVE, ID_FILE_PRINT, ID_APP_ABOUT}) {
     tool_bar_->addAction(actions_.at(id));
   }
@@ -144,8 +152,8 @@ void CMainFrame::RebuildRecentFiles() {
   recent_actions_.clear();
   const QStringList& files = app_.RecentFiles();
   for (int i = 0; i < files.size(); ++i) {
-    auto* action = new QAction(QStringLiteral("&%1 %2").arg(i + 1).arg(files[i]),
-                               file);
+    auto* action =
+        new QAction(QStringLiteral("&%1 %2").arg(i + 1).arg(files[i]), file);
     action->setStatusTip(QLatin1String(kRecentFilePrompt));
     action->setData(ID_FILE_MRU_FILE1 + i);
     const QString path = files[i];
@@ -166,9 +174,9 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CZELwDoc> doc) {
           &CMainFrame::OnActiveChildChanged);
   connect(&child->GetView(), &ChartWidget::CursorMoved, this,
           &CMainFrame::OnCursorMoved);
-  const QSize area = mdi_->viewport()->size();
-  child->resize(std::max(480, area.width() * 3 / 4),
-                std::max(360, area.height() * 3 / 4));
+  // Three quarters of the main window, which may not be laid out yet.
+  child->resize(std::max(480, width() * 3 / 4),
+                std::max(360, height() * 3 / 4));
   child->show();
   mdi_->setActiveSubWindow(child);
   OnActiveChildChanged();
@@ -314,7 +322,8 @@ void CMainFrame::UpdateCommandUI() {
 void CMainFrame::OnActiveChildChanged() {
   const CZELwDoc* doc = ActiveDocument();
   QString title = QStringLiteral("ZEL");
-  if (doc) title += QStringLiteral(" - ") + QString::fromStdString(doc->window_title);
+  if (doc)
+    title += QStringLiteral(" - ") + QString::fromStdString(doc->window_title);
   setWindowTitle(title);
   unit_->setText(doc ? QString::fromStdString(doc->unit + " " + doc->type)
                      : QString());

@@ -56,7 +56,11 @@ void CZELwApp::OnFileOpen() {
     return;
   }
   CZELwDoc* doc = NewDocument(kNewDocumentFromFile);
-  if (ReadDataFile(*doc, file, messages()) == 0) messages().Show(kReadFailed);
+  if (ReadDataFile(*doc, file, messages()) == 0) {
+    messages().Show(kReadFailed);
+    // The chart shows whatever was read before the failure.
+    doc->UpdateAllViews();
+  }
   AddToRecentFileList(path);
 }
 

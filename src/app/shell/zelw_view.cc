@@ -17,7 +17,8 @@ void CZELwView::contextMenuEvent(QContextMenuEvent* event) {
   QAction* add_label = menu.addAction(QStringLiteral("Add Label"));
   add_label->setData(ID_ADD_LABEL);
   const QPoint pos = event->pos();
-  connect(add_label, &QAction::triggered, this, [this, pos] { OnAddLabel(pos); });
+  connect(add_label, &QAction::triggered, this,
+          [this, pos] { OnAddLabel(pos); });
   menu.exec(event->globalPos());
 }
 

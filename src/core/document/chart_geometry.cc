@@ -74,10 +74,10 @@ ChartRanges FitChartRanges(const CZELwDoc& doc,
   }
   const bool clamp = doc.chart.log_range;
   ChartRanges r;
-  r.x = doc.log_x ? FitLog(bx, clamp, doc.chart.log_min_x)
-                  : FitLinear(bx, false);
-  r.y = doc.log_y ? FitLog(by, clamp, doc.chart.log_min_y)
-                  : FitLinear(by, true);
+  r.x =
+      doc.log_x ? FitLog(bx, clamp, doc.chart.log_min_x) : FitLinear(bx, false);
+  r.y =
+      doc.log_y ? FitLog(by, clamp, doc.chart.log_min_y) : FitLinear(by, true);
   return r;
 }
 
