@@ -118,6 +118,8 @@ void ChartWidget::AddLegend() {
   if (model.empty()) return;
   if (!legend_title_) {
     legend_title_ = new QCPTextElement(this);
+    // On the legend's layer, or the legend's background covers it.
+    legend_title_->setLayer(legend->layer());
     legend->insertRow(0);
     legend->addElement(0, 0, legend_title_);
   }
