@@ -6,6 +6,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config git
   qt6-base-dev qt6-svg-dev libqcustomplot-dev libqcustomplot2.1-qt6 libgl-dev
+  qt6-base-dev-tools libqt6test6 fonts-dejavu-core
   libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-dev clang-format
   locales xvfb xauth

@@ -167,6 +167,16 @@ TEST_F(AppFixture, FrameworkOpeningMakesAnEmptyChartNamedAfterTheFile) {
   EXPECT_EQ(frame().mdi_area()->subWindowList().size(), 2);
   EXPECT_EQ(frame().ActiveDocument()->window_title, "three.zel");
 
+  // The list lives in the framework's settings, four entries at most.
+  for (int i = 0; i < 5; ++i) {
+    app_->AddToRecentFileList(QStringLiteral("/tmp/r%1.zel").arg(i));
+  }
+  QSettings settings("Local AppWizard-Generated Applications", "ZEL");
+  EXPECT_EQ(settings.value("Recent File List/File1").toString(), "/tmp/r4.zel");
+  EXPECT_EQ(settings.value("Recent File List/File4").toString(), "/tmp/r1.zel");
+  EXPECT_FALSE(settings.contains("Recent File List/File5"));
+  EXPECT_EQ(app_->RecentFiles().size(), 4);
+
   EXPECT_EQ(app_->OpenDocumentFile(path + ".missing"), nullptr);
   EXPECT_EQ(messages(), std::vector<std::string>{"ERROR! File Not Found!"});
 }

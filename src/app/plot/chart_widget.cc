@@ -17,6 +17,8 @@ QString Text(const std::string& s) { return QString::fromStdString(s); }
 
 ChartWidget::ChartWidget(const CZELwDoc& doc, QWidget* parent)
     : QCustomPlot(parent), doc_(doc) {
+  // Tick labels read the same on every desktop: 0.5, never 0,5.
+  setLocale(QLocale::c());
   setNoAntialiasingOnDrag(true);
   plotLayout()->insertRow(0);
   QFont title_font = font();
