@@ -1,5 +1,6 @@
 // Registry entries of the US codes: the dialogs DLG_ATC, DLG_UBC and
 // DLG_UBC97 and their command-line parameters.
+#include <span>
 #include <string>
 #include <vector>
 

@@ -164,30 +164,5 @@ TEST(Ubc97Test, ChecksInOrderLeaveTheDocumentEmpty) {
       "Sa is not a finite number at T = 0 sec: check the code parameters");
 }
 
-TEST(UsCodesTest, AbsurdInputsGiveAMessageNotACrash) {
-  CZELwDoc doc;
-  MessageLog log;
-  Atc306Params atc;
-  atc.aa = std::nan("");
-  EXPECT_FALSE(GenerateAtc306(doc, atc, log));
-  atc.aa = 1.0;
-  atc.soil = 7;
-  EXPECT_FALSE(GenerateAtc306(doc, atc, log));
-  Ubc88Params ubc;
-  ubc.rw = 0.0;
-  EXPECT_FALSE(GenerateUbc88(doc, ubc, log));
-  ubc.rw = 1.0;
-  ubc.grid.from = std::nan("");
-  EXPECT_FALSE(GenerateUbc88(doc, ubc, log));
-  EXPECT_EQ(log.texts(),
-            (std::vector<std::string>{
-                "The value Aa must be a finite number",
-                "The selection in 'Soil Profile Type' is not valid",
-                "Sa is not a finite number at T = 1e-06 sec: check the code "
-                "parameters",
-                kFromMessage}));
-  EXPECT_EQ(doc.StoredPoints(0), 0u);
-}
-
 }  // namespace
 }  // namespace zel
