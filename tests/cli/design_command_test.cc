@@ -152,7 +152,6 @@ TEST(DesignCommandTest, BadInputGivesItsMessageAndNoFile) {
   fails("ubc97 --ca 0 --cv 0", "The value Ca must be greater than zero");
   fails("ubc97 --ca 0.4 --cv -1", "The value Cv must be greater than zero");
   fails("ubc97 --distance -1", "Error! Distance must not be negative value.");
-  fails("ubc88-94 --rw 0", "Sa is not a finite number");
   fails("atc3-06 --aa inf", "The value Aa must be a finite number");
   fails("ibc2000 --site E --ss 1.1", "Note! In case of Site Class 'E'");
   fails("ubc97 --zone 3 --source A", "--source cannot be used");

@@ -80,17 +80,4 @@ bool CheckFiniteParameters(std::initializer_list<NamedValue> values,
   return true;
 }
 
-bool CheckFiniteSpectrum(std::span<const SpectrumPoint> points,
-                         MessageSink& messages) {
-  for (const SpectrumPoint& point : points) {
-    if (!std::isfinite(point.sa) || !std::isfinite(point.period)) {
-      messages.Show(CFormat(
-          "Sa is not a finite number at T = %g sec: check the code parameters",
-          point.period));
-      return false;
-    }
-  }
-  return true;
-}
-
 }  // namespace zel

@@ -48,12 +48,6 @@ struct NamedValue {
 bool CheckFiniteParameters(std::initializer_list<NamedValue> values,
                            MessageSink& messages);
 
-// Refuses a curve with a value that cannot be drawn or saved, as a zero R
-// would give: "Sa is not a finite number at T = %g sec: check the code
-// parameters".
-bool CheckFiniteSpectrum(std::span<const SpectrumPoint> points,
-                         MessageSink& messages);
-
 }  // namespace zel
 
 #endif  // ZEL_CORE_CODES_DESIGN_DOCUMENT_H_

@@ -118,7 +118,6 @@ bool GenerateIbc2000(CZELwDoc& doc, const Ibc2000Params& p,
     return false;
   }
   const std::vector<SpectrumPoint> points = Ibc2000Spectrum(p);
-  if (!CheckFiniteSpectrum(points, messages)) return false;
   StoreDesignSpectrum(doc, kIbc2000Title, Ibc2000Label(p), points);
   return true;
 }

@@ -121,7 +121,6 @@ bool GenerateKds2019(CZELwDoc& doc, const Kds2019Params& p,
     return false;
   }
   const std::vector<SpectrumPoint> points = Kds2019Spectrum(p);
-  if (!CheckFiniteSpectrum(points, messages)) return false;
   HandOverSpectrum(doc, points, kKds2019Title, Kds2019Label(p));
   return true;
 }

@@ -45,15 +45,6 @@ bool Ubc88ShapeFor(double s, Ubc88Shape& shape) {
   return true;
 }
 
-// Common tail of every classic generator once its own checks passed.
-bool FinishClassic(CZELwDoc& doc, const std::vector<SpectrumPoint>& points,
-                   const char* title, const std::string& label,
-                   MessageSink& messages) {
-  if (!CheckFiniteSpectrum(points, messages)) return false;
-  StoreDesignSpectrum(doc, title, label, points);
-  return true;
-}
-
 }  // namespace
 
 std::vector<SpectrumPoint> Atc306Spectrum(const Atc306Params& p) {
@@ -144,8 +135,8 @@ bool GenerateAtc306(CZELwDoc& doc, const Atc306Params& p,
                              messages)) {
     return false;
   }
-  return FinishClassic(doc, Atc306Spectrum(p), kAtc306Title, Atc306Label(p),
-                       messages);
+  StoreDesignSpectrum(doc, kAtc306Title, Atc306Label(p), Atc306Spectrum(p));
+  return true;
 }
 
 bool GenerateUbc88(CZELwDoc& doc, const Ubc88Params& p, MessageSink& messages) {
@@ -155,8 +146,8 @@ bool GenerateUbc88(CZELwDoc& doc, const Ubc88Params& p, MessageSink& messages) {
                              messages)) {
     return false;
   }
-  return FinishClassic(doc, Ubc88Spectrum(p), kUbc88Title, Ubc88Label(p),
-                       messages);
+  StoreDesignSpectrum(doc, kUbc88Title, Ubc88Label(p), Ubc88Spectrum(p));
+  return true;
 }
 
 bool GenerateUbc97(CZELwDoc& doc, const Ubc97Params& p, MessageSink& messages) {
@@ -176,8 +167,8 @@ bool GenerateUbc97(CZELwDoc& doc, const Ubc97Params& p, MessageSink& messages) {
           messages)) {
     return false;
   }
-  return FinishClassic(doc, Ubc97Spectrum(p), kUbc97Title, Ubc97Label(p),
-                       messages);
+  StoreDesignSpectrum(doc, kUbc97Title, Ubc97Label(p), Ubc97Spectrum(p));
+  return true;
 }
 
 }  // namespace zel
