@@ -149,9 +149,18 @@ TEST_F(AppFixture, MenuStatesFollowTheActiveDocument) {
     return frame().CommandAction(id)->isChecked();
   };
 
+  // The tool bar keeps its buttons; Save needs a document, printing is not
+  // there yet.
+  frame().UpdateCommandUI();
+  EXPECT_TRUE(frame().ToolButton(ID_FILE_OPEN)->isEnabled());
+  EXPECT_FALSE(frame().ToolButton(ID_FILE_SAVE)->isEnabled());
+  EXPECT_TRUE(frame().ToolButton(ID_FILE_SAVE)->isVisible());
+
   // A tripartite chart: both log toggles disabled and checked, the diagonal
   // grid offered.
   CZELwDoc* tri = app_->NewDocument(1);
+  EXPECT_TRUE(frame().ToolButton(ID_FILE_SAVE)->isEnabled());
+  EXPECT_FALSE(frame().ToolButton(ID_FILE_PRINT)->isEnabled());
   tri->tripartite = 1;
   tri->log_x = tri->log_y = 1;
   tri->length_unit = 1;

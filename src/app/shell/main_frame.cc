@@ -117,18 +117,29 @@ void CMainFrame::BuildToolBar() {
   tool_bar_->setObjectName(QStringLiteral("Standard"));
   tool_bar_->setAllowedAreas(Qt::AllToolBarAreas);
   QStyle* s = style();
-  actions_.at(ID_FILE_OPEN)
-      ->setIcon(s->standardIcon(QStyle::SP_DialogOpenButton));
-  actions_.at(ID_FILE_SAVE)
-      ->setIcon(s->standardIcon(QStyle::SP_DialogSaveButton));
-  actions_.at(ID_FILE_PRINT)
-      ->setIcon(
-          QIcon::fromTheme(QStringLiteral("document-print"),
-                           s->standardIcon(QStyle::SP_FileDialogDetailedView)));
-  actions_.at(ID_APP_ABOUT)
-      ->setIcon(s->standardIcon(QStyle::SP_MessageBoxQuestion));
-  for (int id : {ID_FILE_OPEN, ID_FILE_SAVE, ID_FILE_PRINT, ID_APP_ABOUT}) {
-    tool_bar_->addAction(actions_.at(id));
+  const struct {
+    int id;
+    QIcon icon;
+  } buttons[] = {
+      {ID_FILE_OPEN, s->standardIcon(QStyle::SP_DialogOpenButton)},
+      {ID_FILE_SAVE, s->standardIcon(QStyle::SP_DialogSaveButton)},
+      {ID_FILE_PRINT,
+       QIcon::fromTheme(QStringLiteral("document-print"),
+                        s->standardIcon(QStyle::SP_FileDialogDetailedView))},
+      {ID_APP_ABOUT, s->standardIcon(QStyle::SP_MessageBoxQuestion)},
+  };
+  // The buttons stay on the bar without a document, disabled, while the
+  // menu items of document commands disappear; so they are actions of their
+  // own that follow the menu items' enabled state.
+  for (const auto& b : buttons) {
+    QAction* item = actions_.at(b.id);
+    item->setIcon(b.icon);
+    QAction* button = tool_bar_->addAction(b.icon, item->text());
+    button->setStatusTip(item->statusTip());
+    button->setData(b.id);
+    const int id = b.id;
+    connect(button, &QAction::triggered, this, [this, id] { OnCommand(id); });
+    tool_buttons_[id] = button;
   }
 }
 
@@ -195,6 +206,11 @@ CZELwDoc* CMainFrame::ActiveDocument() const {
 QAction* CMainFrame::CommandAction(int id) const {
   const auto it = actions_.find(id);
   return it == actions_.end() ? nullptr : it->second;
+}
+
+QAction* CMainFrame::ToolButton(int id) const {
+  const auto it = tool_buttons_.find(id);
+  return it == tool_buttons_.end() ? nullptr : it->second;
 }
 
 void CMainFrame::OnCommand(int id) {
@@ -302,6 +318,10 @@ void CMainFrame::UpdateCommandUI() {
     actions_.at(id)->setEnabled(commands_.Has(id));
   }
   actions_.at(ID_FILE_SAVE)->setEnabled(has_doc);
+  for (const auto& [id, button] : tool_buttons_) {
+    QAction* item = actions_.at(id);
+    button->setEnabled(item->isEnabled() && item->isVisible());
+  }
   actions_.at(ID_VIEW_TOOLBAR)->setChecked(tool_bar_ && !tool_bar_->isHidden());
   actions_.at(ID_VIEW_STATUS_BAR)->setChecked(!statusBar()->isHidden());
 

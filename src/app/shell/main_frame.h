@@ -41,6 +41,8 @@ class CMainFrame : public QMainWindow {
 
   // The menu item of a command id, or nullptr.
   QAction* CommandAction(int id) const;
+  // The tool bar button of a command id, or nullptr.
+  QAction* ToolButton(int id) const;
   // Runs a command as its menu item would.
   void OnCommand(int id);
   // Applies the menu rules for the active document (or none): which items
@@ -63,6 +65,7 @@ class CMainFrame : public QMainWindow {
   CommandRegistry commands_;
   QMdiArea* mdi_;
   std::map<int, QAction*> actions_;
+  std::map<int, QAction*> tool_buttons_;
   std::map<QString, QMenu*> menus_;
   QMenu* design_menu_ = nullptr;
   QAction* recent_separator_ = nullptr;
