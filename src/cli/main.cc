@@ -1,9 +1,13 @@
 // zel-cli: ZEL's generators and file tools without the GUI.
 #include <CLI/CLI.hpp>
 
+#include "cli/file_commands.h"
+
 int main(int argc, char** argv) {
-  CLI::App app{"ZEL command line: seismic input data without the GUI", "zel-cli"};
+  CLI::App app{"ZEL command line: seismic input data without the GUI",
+               "zel-cli"};
   app.require_subcommand(1);
+  zel::cli::AddFileCommands(app);
   CLI11_PARSE(app, argc, argv);
   return 0;
 }

@@ -30,12 +30,11 @@ class ScopedCLocale {
 };
 
 bool IsFlagChar(char c) {
-  return c == '-' || c == '+' || c == ' ' || c == '#' || c == '0' ||
-         c == '\'';
+  return c == '-' || c == '+' || c == ' ' || c == '#' || c == '0' || c == '\'';
 }
 bool IsLengthChar(char c) {
-  return c == 'h' || c == 'l' || c == 'L' || c == 'q' || c == 'j' ||
-         c == 'z' || c == 't';
+  return c == 'h' || c == 'l' || c == 'L' || c == 'q' || c == 'j' || c == 'z' ||
+         c == 't';
 }
 
 }  // namespace

@@ -10,7 +10,8 @@ namespace zel {
 bool CZELwDoc::SetPoint(int i, int c, double x, double y, int last) {
   if (c < 0 || c >= kMaxCurves || i < 0) return false;
   const auto item = static_cast<std::size_t>(i);
-  if (!store_.SetValue(item, 2 * c, x) || !store_.SetValue(item, 2 * c + 1, y)) {
+  if (!store_.SetValue(item, 2 * c, x) ||
+      !store_.SetValue(item, 2 * c + 1, y)) {
     return false;
   }
   point_count[c] = last != 0 ? i + 1 : i;
@@ -30,7 +31,8 @@ std::string CZELwDoc::BuildYAxisTitle() const {
   const std::string& current = chart.axis_titles[1];
   std::string kept;
   const std::size_t paren = current.find('(');
-  if (paren != std::string::npos && paren > 0) kept = current.substr(0, paren - 1);
+  if (paren != std::string::npos && paren > 0)
+    kept = current.substr(0, paren - 1);
 
   const std::string suffix = length_unit == 1 && IsValidUnitIndex(unit_index)
                                  ? kLengthUnits[unit_index].suffix

@@ -12,8 +12,8 @@ bool DataStore::SetValue(std::size_t item, int group, double value,
 }
 
 bool DataStore::Append(int group, double value, std::uint32_t style) {
-  return IsValidGroup(group) && SetValue(groups_[group].size(), group, value,
-                                         style);
+  return IsValidGroup(group) &&
+         SetValue(groups_[group].size(), group, value, style);
 }
 
 double DataStore::Value(std::size_t item, int group) const {

@@ -11,7 +11,8 @@ TEST(UnitsTest, FactorTableKeepsItsRoundingAndSinglePrecisionEntry) {
   EXPECT_NE(UnitConversionFactor(2, 4) * UnitConversionFactor(4, 2), 1.0);
   EXPECT_EQ(UnitConversionFactor(0, 3), 0.03937);
   EXPECT_EQ(UnitConversionFactor(3, 4), 0.08333);
-  for (int u = 0; u < kUnitCount; ++u) EXPECT_EQ(UnitConversionFactor(u, u), 1.0);
+  for (int u = 0; u < kUnitCount; ++u)
+    EXPECT_EQ(UnitConversionFactor(u, u), 1.0);
 }
 
 TEST(UnitsTest, UnitWordsOfTheDataFile) {

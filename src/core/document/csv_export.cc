@@ -1,0 +1,83 @@
+#include "core/document/csv_export.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <vector>
+
+#include "core/document/c_format.h"
+
+namespace zel {
+namespace {
+
+std::string Quoted(const std::string& text) {
+  std::string out = "\"";
+  for (char c : text) {
+    if (c == '"') out += '"';
+    out += c;
+  }
+  return out + '"';
+}
+
+void AppendNumber(std::string& out, double value) {
+  char buffer[32];
+  const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+  out.append(buffer, result.ptr);
+}
+
+}  // namespace
+
+std::string CurvesToCsv(const CZELwDoc& doc) {
+  std::vector<int> curves;
+  std::size_t rows = 0;
+  for (int c = 0; c < kMaxCurves; ++c) {
+    if (doc.StoredPoints(c) == 0) continue;
+    curves.push_back(c);
+    rows = std::max(rows, doc.StoredPoints(c));
+  }
+
+  std::string out;
+  for (int c : curves) {
+    std::string y_name = doc.title.empty()
+                             ? doc.AxisTitle(1)
+                             : doc.title + ": " + doc.AxisTitle(1);
+    if (doc.damping_flag != 0) {
+      y_name += CFormat(" (damping %g)", doc.damping[c]);
+    }
+    if (c != curves.front()) out += ',';
+    out += Quoted(doc.AxisTitle(0)) + ',' + Quoted(y_name);
+  }
+  out += '\n';
+
+  const DataStore& store = doc.store();
+  for (std::size_t i = 0; i < rows; ++i) {
+    for (int c : curves) {
+      if (c != curves.front()) out += ',';
+      if (i < doc.StoredPoints(c)) {
+        AppendNumber(out, store.Value(i, 2 * c));
+        out += ',';
+        AppendNumber(out, store.Value(i, 2 * c + 1));
+      } else {
+        out += ',';
+      }
+    }
+    out += '\n';
+  }
+  return out;
+}
+
+bool WriteCsvFile(const CZELwDoc& doc, const std::string& path,
+                  MessageSink& messages) {
+  std::FILE* file = std::fopen(path.c_str(), "w");
+  if (file == nullptr) {
+    messages.Show("ERROR! File Not Found!");
+    return false;
+  }
+  const std::string text = CurvesToCsv(doc);
+  bool ok = std::fwrite(text.data(), 1, text.size(), file) == text.size();
+  ok = std::fclose(file) == 0 && ok;
+  if (!ok) messages.Show("ERROR! File Not Found!");
+  return ok;
+}
+
+}  // namespace zel

@@ -1,0 +1,24 @@
+// Curves of a document as comma-separated columns, for spreadsheets.
+#ifndef ZEL_CORE_DOCUMENT_CSV_EXPORT_H_
+#define ZEL_CORE_DOCUMENT_CSV_EXPORT_H_
+
+#include <string>
+
+#include "core/document/curve_document.h"
+#include "core/document/messages.h"
+
+namespace zel {
+
+// Every curve that holds values, as x,y column pairs. The header row names
+// the axis titles, the document title and, for response spectra, the damping
+// of each curve. Numbers are written in the shortest form that reads back to
+// the same double.
+std::string CurvesToCsv(const CZELwDoc& doc);
+
+// Writes CurvesToCsv to `path`; "ERROR! File Not Found!" when it cannot.
+bool WriteCsvFile(const CZELwDoc& doc, const std::string& path,
+                  MessageSink& messages);
+
+}  // namespace zel
+
+#endif  // ZEL_CORE_DOCUMENT_CSV_EXPORT_H_

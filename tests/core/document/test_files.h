@@ -1,0 +1,54 @@
+// Helpers for tests that read and write files.
+#ifndef ZEL_TESTS_CORE_DOCUMENT_TEST_FILES_H_
+#define ZEL_TESTS_CORE_DOCUMENT_TEST_FILES_H_
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace zel::testing {
+
+// A FILE* reading from `bytes`; `bytes` must outlive the stream.
+inline std::FILE* OpenBytes(const std::string& bytes) {
+  if (bytes.empty()) return std::fopen("/dev/null", "r");
+  return fmemopen(const_cast<char*>(bytes.data()), bytes.size(), "r");
+}
+
+inline std::string ReadAll(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+inline void WriteAll(const std::filesystem::path& path,
+                     const std::string& bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+// A fresh folder under the system's temporary folder, removed afterwards.
+class TempDir {
+ public:
+  TempDir() {
+    std::string pattern =
+        (std::filesystem::temp_directory_path() / "zel-test-XXXXXX").string();
+    path_ = mkdtemp(pattern.data());
+  }
+  ~TempDir() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TempDir(const TempDir&) = delete;
+  TempDir& operator=(const TempDir&) = delete;
+  std::filesystem::path operator/(const std::string& name) const {
+    return path_ / name;
+  }
+  const std::filesystem::path& path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+}  // namespace zel::testing
+
+#endif  // ZEL_TESTS_CORE_DOCUMENT_TEST_FILES_H_
