@@ -2,12 +2,14 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/file_commands.h"
+#include "cli/record_commands.h"
 
 int main(int argc, char** argv) {
   CLI::App app{"ZEL command line: seismic input data without the GUI",
                "zel-cli"};
   app.require_subcommand(1);
   zel::cli::AddFileCommands(app);
+  zel::cli::AddRecordCommands(app);
   CLI11_PARSE(app, argc, argv);
   return 0;
 }
