@@ -1,6 +1,7 @@
 // zel-cli: ZEL's generators and file tools without the GUI.
 #include <CLI/CLI.hpp>
 
+#include "cli/design_command.h"
 #include "cli/file_commands.h"
 #include "cli/record_commands.h"
 
@@ -9,6 +10,7 @@ int main(int argc, char** argv) {
                "zel-cli"};
   app.require_subcommand(1);
   zel::cli::AddFileCommands(app);
+  zel::cli::AddDesignCommand(app);
   zel::cli::AddRecordCommands(app);
   CLI11_PARSE(app, argc, argv);
   return 0;

@@ -1,0 +1,53 @@
+// Handing a computed design spectrum over to its new curve document, and the
+// guards every generator shares before it does so.
+#ifndef ZEL_CORE_CODES_DESIGN_DOCUMENT_H_
+#define ZEL_CORE_CODES_DESIGN_DOCUMENT_H_
+
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "core/codes/period_grid.h"
+#include "core/document/curve_document.h"
+#include "core/document/messages.h"
+
+namespace zel {
+
+inline constexpr char kPeriodAxisTitle[] = "Period Tn (sec)";
+inline constexpr char kSaAxisTitle[] = "Sa (g)";
+
+// Keeps the grid in the document's working fields, as every code dialog does
+// before it checks anything.
+void CopyGridToDocument(const PeriodGrid& grid, CZELwDoc& doc);
+
+// The classic generators' hand-over: kind 2 (so the Y axis reads "Absolute
+// Acceleration (g)"), title, parameter label, and series 0 stored without the
+// last-point mark, so a saved file ends one point short of the chart.
+void StoreDesignSpectrum(CZELwDoc& doc, const std::string& title,
+                         const std::string& label,
+                         std::span<const SpectrumPoint> points);
+
+// The array hand-off of the codes computed in their dialogs: every pair is
+// stored with the last-point mark, and the Y axis is titled "Sa (g)"
+// directly. Uses the shorter of the two arrays.
+void HandOverSpectrum(CZELwDoc& doc, std::span<const double> periods,
+                      std::span<const double> ordinates,
+                      const std::string& title, const std::string& label);
+// The same from sampled points.
+void HandOverSpectrum(CZELwDoc& doc, std::span<const SpectrumPoint> points,
+                      const std::string& title, const std::string& label);
+
+struct NamedValue {
+  std::string_view name;
+  double value;
+};
+
+// Refuses a parameter that is NaN or infinite: "The value %s must be a
+// finite number". Returns false after the first such message.
+bool CheckFiniteParameters(std::initializer_list<NamedValue> values,
+                           MessageSink& messages);
+
+}  // namespace zel
+
+#endif  // ZEL_CORE_CODES_DESIGN_DOCUMENT_H_

@@ -1,0 +1,168 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+
+#include "cli/cli_runner.h"
+#include "core/codes/code_registry.h"
+#include "core/codes/ibc2000.h"
+#include "core/codes/kds2019.h"
+#include "core/codes/us_codes.h"
+#include "core/document/data_file.h"
+#include "core/document/test_files.h"
+
+namespace zel {
+namespace {
+
+using ::testing::HasSubstr;
+using zel::testing::ReadAll;
+using zel::testing::RunCli;
+using zel::testing::TempDir;
+
+// The .zel bytes the dialog would save after filling `doc`.
+std::string Saved(const CZELwDoc& doc, const TempDir& dir) {
+  MessageLog log;
+  const auto path = dir / "direct.zel";
+  EXPECT_TRUE(WriteDataFile(doc, path.string(), log));
+  return ReadAll(path);
+}
+
+std::string RunDesign(const std::string& arguments, const TempDir& dir) {
+  const auto path = dir / "cli.zel";
+  const auto r = RunCli("design " + arguments + " -o '" + path.string() + "'");
+  EXPECT_EQ(r.status, 0) << r.out;
+  EXPECT_EQ(r.out, "");
+  return ReadAll(path);
+}
+
+TEST(DesignCommandTest, SameBytesAsTheCoreGenerators) {
+  TempDir dir;
+  MessageLog log;
+  {
+    Ubc97Params p;
+    p.ca = 0.4;
+    p.cv = 0.56;
+    CZELwDoc doc;
+    ASSERT_TRUE(GenerateUbc97(doc, p, log));
+    const std::string direct = Saved(doc, dir);
+    EXPECT_THAT(direct, HasSubstr("*TITLE, Ca=0.4  Cv=0.56\n"));
+    EXPECT_EQ(RunDesign("ubc97 --ca 0.4 --cv 0.56", dir), direct);
+    EXPECT_EQ(RunDesign("UBC97 --option user --cv 0.56 --ca 0.40", dir),
+              direct);
+    // Zone 4, Sc, type C: the automatic option gives the same Ca and Cv.
+    EXPECT_EQ(RunDesign("ubc97 --soil sc --source C", dir), direct);
+  }
+  {
+    Ubc88Params p;
+    p.soil = 1;
+    p.z = 0.4;
+    p.grid = {0.5, 3.0, 50};
+    CZELwDoc doc;
+    ASSERT_TRUE(GenerateUbc88(doc, p, log));
+    EXPECT_EQ(RunDesign("ubc88-94 --soil S2 --z 0.4 --from 0.5 --to 3 "
+                        "--steps 50",
+                        dir),
+              Saved(doc, dir));
+  }
+  {
+    Atc306Params p;
+    p.soil = 2;
+    p.aa = 0.3;
+    p.av = 0.2;
+    p.r = 4.5;
+    CZELwDoc doc;
+    ASSERT_TRUE(GenerateAtc306(doc, p, log));
+    EXPECT_EQ(RunDesign("atc3-06 --soil s3 --aa 0.3 --av 0.2 --r 4.5", dir),
+              Saved(doc, dir));
+  }
+  {
+    Ibc2000Params p;
+    p.site = 3;
+    p.ss = 0.6;
+    p.importance = 1.25;
+    CZELwDoc doc;
+    ASSERT_TRUE(GenerateIbc2000(doc, p, log));
+    EXPECT_EQ(RunDesign("ibc2000 --site D --ss 0.6 --importance 1.25", dir),
+              Saved(doc, dir));
+  }
+  {
+    CZELwDoc doc;
+    ASSERT_TRUE(GenerateKds2019(doc, Kds2019Params{}, log));
+    const std::string direct = Saved(doc, dir);
+    EXPECT_EQ(RunDesign("kds2019", dir), direct);
+    // 103 points, all saved by the array hand-off.
+    EXPECT_EQ(std::count(direct.begin(), direct.end(), '\n'), 7 + 1 + 103);
+    // Zone 1 rewrites EPA to 0.22 and refreshes: the defaults again.
+    EXPECT_EQ(RunDesign("kds2019 --zone 1", dir), direct);
+  }
+  {
+    // S6 by hand: the typed values go straight into the record.
+    Kds2019Params p;
+    p.site = 5;
+    p.fa = 1.5;
+    p.fv = 2.0;
+    p.sds = 0.5;
+    p.sd1 = 0.3;
+    CZELwDoc doc;
+    ASSERT_TRUE(GenerateKds2019(doc, p, log));
+    EXPECT_EQ(RunDesign("kds2019 --site S6 --fa 1.5 --fv 2 --sds 0.5 "
+                        "--sd1 0.3",
+                        dir),
+              Saved(doc, dir));
+  }
+  EXPECT_TRUE(log.texts().empty());
+}
+
+TEST(DesignCommandTest, ListsCodesAndWritesCsv) {
+  auto r = RunCli("design --list");
+  EXPECT_EQ(r.status, 0);
+  for (const CodeEntry& code : DesignCodes()) {
+    EXPECT_THAT(r.out, HasSubstr(code.id));
+  }
+  EXPECT_THAT(r.out, HasSubstr("UBC(1997) Design Spectrum"));
+  r = RunCli("design ubc97 --help");
+  EXPECT_EQ(r.status, 0);
+  EXPECT_THAT(r.out, HasSubstr("--distance"));
+
+  TempDir dir;
+  r = RunCli("design ibc2000 -o '" + (dir / "s.csv").string() + "'");
+  EXPECT_EQ(r.status, 0) << r.out;
+  const std::string csv = ReadAll(dir / "s.csv");
+  EXPECT_THAT(csv, HasSubstr("Period Tn (sec)"));
+  EXPECT_THAT(csv, HasSubstr("\n6,"));
+}
+
+TEST(DesignCommandTest, BadInputGivesItsMessageAndNoFile) {
+  TempDir dir;
+  const std::string out = " -o '" + (dir / "x.zel").string() + "'";
+  const auto fails = [&](const std::string& arguments,
+                         const std::string& message) {
+    const auto r = RunCli("design " + arguments + out);
+    EXPECT_NE(r.status, 0) << arguments;
+    EXPECT_THAT(r.out, HasSubstr(message)) << arguments;
+    EXPECT_FALSE(std::filesystem::exists(dir / "x.zel")) << arguments;
+  };
+  fails("ubc97 --from -1 --to -2 --steps 0", kFromMessage);
+  fails("ubc97 --from 3 --to 3", kToMessage);
+  fails("atc3-06 --steps 0", kStepMessage);
+  fails("kds2019 --steps 2147483647", kStepTooLargeMessage);
+  fails("kds2019 --to nan", kToMessage);
+  fails("ubc97 --ca 0 --cv 0", "The value Ca must be greater than zero");
+  fails("ubc97 --ca 0.4 --cv -1", "The value Cv must be greater than zero");
+  fails("ubc97 --distance -1", "Error! Distance must not be negative value.");
+  fails("atc3-06 --aa inf", "The value Aa must be a finite number");
+  fails("ibc2000 --site E --ss 1.1", "Note! In case of Site Class 'E'");
+  fails("ubc97 --zone 3 --source A", "--source cannot be used");
+  fails("ubc97 --ca x", "'x' is not a number");
+  fails("ubc97 --steps 1.5", "'1.5' is not a whole number");
+  fails("kds2019 --site S7", "'S7' is not one of S1, S2, S3, S4, S5, S6");
+  fails("eurocode", "");
+  const auto r = RunCli("design");
+  EXPECT_NE(r.status, 0);
+  EXPECT_THAT(r.out, HasSubstr("name a code"));
+}
+
+}  // namespace
+}  // namespace zel
