@@ -63,8 +63,8 @@ void BM_Scalar(benchmark::State& state, int samples, int periods) {
   std::vector<double> peaks(w.oscillators.size());
   for (auto _ : state) {
     for (std::size_t o = 0; o < w.oscillators.size(); ++o) {
-      peaks[o] = IntegrateOscillator(w.accel, true, w.oscillators[o])
-                     .displacement;
+      peaks[o] =
+          IntegrateOscillator(w.accel, true, w.oscillators[o]).displacement;
     }
     benchmark::DoNotOptimize(peaks.data());
   }

@@ -65,9 +65,9 @@ TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
   TempDir dir;
   const std::string record = SmallRecord();
   WriteAll(dir / "quake.dbs", record);
-  auto r = RunCli("record " + Quoted(dir / "quake.dbs") +
-                  " --amp-scale 0.5 --time-scale 2 -o " +
-                  Quoted(dir / "out.zel"));
+  auto r =
+      RunCli("record " + Quoted(dir / "quake.dbs") +
+             " --amp-scale 0.5 --time-scale 2 -o " + Quoted(dir / "out.zel"));
   ASSERT_EQ(r.status, 0) << r.out;
 
   CZELwDoc doc;
@@ -106,8 +106,8 @@ TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.out,
             "Error : No Data Found!\nan Error occurred while reading data!\n");
-  r = RunCli("record " + Quoted(dir / "quake.dbs") +
-             " --amp-scale 1,5 -o " + Quoted(dir / "x.zel"));
+  r = RunCli("record " + Quoted(dir / "quake.dbs") + " --amp-scale 1,5 -o " +
+             Quoted(dir / "x.zel"));
   EXPECT_EQ(r.status, 1);
   EXPECT_THAT(r.out, HasSubstr("--amp-scale: not a number: 1,5"));
   EXPECT_FALSE(std::filesystem::exists(dir / "x.zel"));
@@ -144,10 +144,10 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
   // Every kind word; --log raises "from"; CSV output.
   for (const char* kind : {"psa", "psv", "sa", "sv", "sd"}) {
     r = RunCli("spectrum " + Quoted(dir / "quake.dbs") + " --kind " + kind +
-               " --from 0 --to 2 --steps 20 --log -o " +
-               Quoted(dir / "k.csv"));
+               " --from 0 --to 2 --steps 20 --log -o " + Quoted(dir / "k.csv"));
     EXPECT_EQ(r.status, 0) << kind << r.out;
-    EXPECT_THAT(ReadAll(dir / "k.csv"), HasSubstr("\n0.009999999776482582,")) << kind;
+    EXPECT_THAT(ReadAll(dir / "k.csv"), HasSubstr("\n0.009999999776482582,"))
+        << kind;
   }
 
   // Out-of-range settings are refused before anything is written.

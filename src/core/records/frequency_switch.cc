@@ -51,8 +51,8 @@ void ShowFrequencySpectrum(CZELwDoc& doc, unsigned count) {
   double largest = 0.0;
   double largest_at = 0.0;
   for (unsigned k = 1; k <= n / 2; ++k) {
-    magnitude[k] = std::sqrt(real_out[k] * real_out[k] +
-                             imag_out[k] * imag_out[k]);
+    magnitude[k] =
+        std::sqrt(real_out[k] * real_out[k] + imag_out[k] * imag_out[k]);
     if (magnitude[k] >= largest) {
       largest = magnitude[k];
       largest_at = df * k;
@@ -73,9 +73,9 @@ void ShowTimeHistory(CZELwDoc& doc) {
   doc.x_axis_step = 0.0;
   doc.store().Clear();
   const RecordPeak peak = StoreTimeHistory(doc);
-  FinishChart(doc, "Time (sec)", "Ground Accel.(g)", "Earthquake Record",
-              CFormat("Max = %2.4f(g) at %3.2f sec", peak.magnitude,
-                      peak.time));
+  FinishChart(
+      doc, "Time (sec)", "Ground Accel.(g)", "Earthquake Record",
+      CFormat("Max = %2.4f(g) at %3.2f sec", peak.magnitude, peak.time));
   doc.frequency_mode = 0;
 }
 

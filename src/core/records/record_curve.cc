@@ -46,8 +46,8 @@ int ShowRecordCurve(CZELwDoc& doc, std::FILE* file, MessageSink& messages) {
   doc.subtitle = doc.record_name;
   SetUpChart(doc);
   doc.SetTitle(doc.title);
-  SetContextLabel(doc, CFormat("Max = %8.4f(g) at %6.3f sec", peak.magnitude,
-                               peak.time));
+  SetContextLabel(
+      doc, CFormat("Max = %8.4f(g) at %6.3f sec", peak.magnitude, peak.time));
   doc.UpdateAllViews();
   return 1;
 }

@@ -182,8 +182,7 @@ void IntegratePeaks(std::span<const double> forcing,
   const std::size_t blocks = (count + kBlock - 1) / kBlock;
   std::size_t wanted = threads > 0 ? static_cast<std::size_t>(threads)
                                    : std::thread::hardware_concurrency();
-  if (static_cast<double>(job.n) * static_cast<double>(count) <
-      kThreadedWork) {
+  if (static_cast<double>(job.n) * static_cast<double>(count) < kThreadedWork) {
     wanted = 1;
   }
   wanted = std::clamp<std::size_t>(wanted, 1, blocks);

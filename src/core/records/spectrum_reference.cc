@@ -24,10 +24,10 @@ OscillatorPeaks IntegrateOscillator(std::span<const double> accel,
   for (std::size_t i = 0; i < n; ++i) {
     const double ground = i + offset < n ? accel[i + offset] : 0.0;
     const double p_end = -ground;
-    const double d_next = k.d_from_d * d + k.d_from_v * v +
-                          k.d_from_start * p + k.d_from_end * p_end;
-    const double v_next = k.v_from_d * d + k.v_from_v * v +
-                          k.v_from_start * p + k.v_from_end * p_end;
+    const double d_next = k.d_from_d * d + k.d_from_v * v + k.d_from_start * p +
+                          k.d_from_end * p_end;
+    const double v_next = k.v_from_d * d + k.v_from_v * v + k.v_from_start * p +
+                          k.v_from_end * p_end;
     const double relative = k.a_from_d * d + k.a_from_v * v +
                             k.a_from_start * p + k.a_from_end * p_end;
     d = d_next;

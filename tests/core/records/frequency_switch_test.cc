@@ -24,7 +24,8 @@ using zel::testing::OpenBytes;
 // A record document of `n` samples of a sine of `hz` at step `dt`.
 CZELwDoc SineRecord(int n, double hz, double dt, double time_scale = 1.0) {
   std::vector<double> values(static_cast<std::size_t>(n));
-  for (int i = 0; i < n; ++i) values[i] = 0.25 * std::sin(2 * M_PI * hz * i * dt);
+  for (int i = 0; i < n; ++i)
+    values[i] = 0.25 * std::sin(2 * M_PI * hz * i * dt);
   CZELwDoc doc;
   PrepareRecordDocument(doc, 1.0, time_scale, "Sine");
   MessageLog log;

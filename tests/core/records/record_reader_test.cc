@@ -8,9 +8,9 @@
 #include <string>
 
 #include "core/document/test_files.h"
+#include "core/records/chart_setup.h"
 #include "core/records/record_catalog.h"
 #include "core/records/record_curve.h"
-#include "core/records/chart_setup.h"
 #include "core/records/record_text.h"
 
 namespace zel {
@@ -53,9 +53,9 @@ TEST(RecordCatalogTest, FiftyThreeEntriesFoundBesideTheProgram) {
   MessageLog log;
   EXPECT_EQ(FindCatalogFile("1940, El Centro Site, 270 Deg", log, "/opt/zel"),
             "/opt/zel/dbase/Elcent_h.dbs");
-  EXPECT_EQ(FindCatalogFile("T2-III-3(1995, HYOUGOKEN_South, EW)", log,
-                            "/opt/zel/"),
-            "/opt/zel/dbase/T2-III-3.dbs");
+  EXPECT_EQ(
+      FindCatalogFile("T2-III-3(1995, HYOUGOKEN_South, EW)", log, "/opt/zel/"),
+      "/opt/zel/dbase/T2-III-3.dbs");
   EXPECT_THAT(log.texts(), IsEmpty());
   // A title is compared whole.
   EXPECT_EQ(FindCatalogFile("1940, El Centro Site", log, "/opt/zel/"),
@@ -190,8 +190,9 @@ TEST(RecordCurveTest, TimeHistoryTitlesAndLastOfEqualPeaks) {
   CZELwDoc failed;
   log.Clear();
   EXPECT_EQ(ShowRecordCurve(failed, OpenBytes("1 2\n"), log), 0);
-  EXPECT_THAT(log.texts(), ElementsAre("Error : Wrong Format!",
-                                       "an Error occurred while reading data!"));
+  EXPECT_THAT(log.texts(),
+              ElementsAre("Error : Wrong Format!",
+                          "an Error occurred while reading data!"));
   EXPECT_EQ(failed.StoredPoints(0), 0u);
 }
 

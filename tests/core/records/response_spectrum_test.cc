@@ -76,7 +76,8 @@ TEST(ResponseSpectrumTest, UndampedStepAndRampMatchTheClosedForms) {
   EXPECT_NEAR(Ordinate(abs, 0, 0), 2 * a, 2 * a * 1e-9);
   // Relative velocity A sin(wt) / w peaks at A / w (mm/s).
   CZELwDoc sv = Spectrum(Settings(3, {0.0}, 1.0, 2.0, 1), step);
-  EXPECT_NEAR(Ordinate(sv, 0, 0), a * 9815.0 / omega, a * 9815.0 / omega * 1e-9);
+  EXPECT_NEAR(Ordinate(sv, 0, 0), a * 9815.0 / omega,
+              a * 9815.0 / omega * 1e-9);
   // Relative displacement 2A / w^2 (mm); pseudo velocity 2A / w.
   CZELwDoc sd = Spectrum(Settings(4, {0.0}, 1.0, 2.0, 1), step);
   const double sd_exact = 2 * a * 9815.0 / (omega * omega);
@@ -172,9 +173,8 @@ TEST(ResponseSpectrumTest, DampedCurvesFollowTheRecurrenceOfEveryKind) {
   EXPECT_EQ(doc.type, "DISP");
   EXPECT_EQ(doc.unit, "MM");
   EXPECT_EQ(doc.chart.legend.title, "Damping :");
-  EXPECT_THAT(doc.chart.legend.entries,
-              ElementsAre(" 0.00", " 0.02", " 0.05", " 0.10", " 0.20",
-                          " 0.50"));
+  EXPECT_THAT(doc.chart.legend.entries, ElementsAre(" 0.00", " 0.02", " 0.05",
+                                                    " 0.10", " 0.20", " 0.50"));
   EXPECT_EQ(doc.axis_display, 1);
 
   // Kinds from the same displacement peaks; titles and type words.
@@ -329,8 +329,9 @@ TEST(ResponseSpectrumTest, GrowthAtLongPeriodsAndBadSettingsNeverBreak) {
   Spectrum(Settings(7, {0.05}, 0.1, 1.0, 3), text, &messages);
   EXPECT_THAT(messages, ElementsAre("Error : Unknown spectrum kind!"));
   Spectrum(Settings(0, {}, 0.1, 1.0, 3), text, &messages);
-  EXPECT_THAT(messages, ElementsAre(
-                            "Error : The number of damping ratios must be 1 to 6!"));
+  EXPECT_THAT(
+      messages,
+      ElementsAre("Error : The number of damping ratios must be 1 to 6!"));
   // A read failure: the reader's message, then the spectrum's; no points.
   const CZELwDoc failed =
       Spectrum(Settings(0, {0.05}, 0.1, 1.0, 3), "garbage\n", &messages);

@@ -54,9 +54,8 @@ TEST(SpectrumKernelTest, FastIntegratorAgreesWithTheScalarStepLoop) {
         std::vector<double> peaks(oscillators.size(), -1.0);
         IntegratePeaks(forcing, oscillators, response, peaks, threads);
         for (int o = 0; o < count; ++o) {
-          const double expected =
-              Chosen(IntegrateOscillator(accel, at_zero, oscillators[o]),
-                     response);
+          const double expected = Chosen(
+              IntegrateOscillator(accel, at_zero, oscillators[o]), response);
           if (std::isfinite(expected)) {
             EXPECT_NEAR(peaks[o], expected, 1e-12 * std::fabs(expected))
                 << "trial " << trial << " oscillator " << o;
