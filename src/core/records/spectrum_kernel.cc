@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cstdint>
+#include <cstring>
 #include <system_error>
 #include <thread>
 
@@ -11,9 +12,10 @@ namespace {
 
 // Oscillators integrated together: kVectors vectors of kLanes doubles whose
 // state (displacement, velocity, peak) stays in registers for the whole
-// record. Three 4-wide vectors keep the multipliers busy without spilling.
+// record. Four 4-wide vectors hide the latency of the recurrence and keep
+// the multipliers busy.
 constexpr int kLanes = 4;
-constexpr int kVectors = 3;
+constexpr int kVectors = 4;
 constexpr int kBlock = kLanes * kVectors;
 
 typedef double Lanes __attribute__((vector_size(kLanes * sizeof(double))));
@@ -29,24 +31,28 @@ template <PeakResponse kResponse>
 ZEL_ALWAYS_INLINE void IntegrateBlock(const double* forcing, std::size_t n,
                                       const OscillatorCoefficients* osc,
                                       std::size_t count, double* peaks) {
-  Lanes dd[kVectors], dv[kVectors], ds[kVectors], de[kVectors];
-  Lanes vd[kVectors], vv[kVectors], vs[kVectors], ve[kVectors];
-  Lanes ad[kVectors], av[kVectors], as[kVectors], ae[kVectors];
-  Lanes d[kVectors], v[kVectors], peak[kVectors];
+  // The twelve coefficients of every lane, gathered per vector.
+  double lanes[12][kVectors][kLanes];
   for (int b = 0; b < kVectors; ++b) {
     for (int l = 0; l < kLanes; ++l) {
       // A short last block repeats its last oscillator in the spare lanes.
       const std::size_t o = std::min<std::size_t>(b * kLanes + l, count - 1);
       const OscillatorCoefficients& k = osc[o];
-      dd[b][l] = k.d_from_d, dv[b][l] = k.d_from_v;
-      ds[b][l] = k.d_from_start, de[b][l] = k.d_from_end;
-      vd[b][l] = k.v_from_d, vv[b][l] = k.v_from_v;
-      vs[b][l] = k.v_from_start, ve[b][l] = k.v_from_end;
-      ad[b][l] = k.a_from_d, av[b][l] = k.a_from_v;
-      as[b][l] = k.a_from_start, ae[b][l] = k.a_from_end;
+      const double values[12] = {k.d_from_d,     k.d_from_v,     k.d_from_start,
+                                 k.d_from_end,   k.v_from_d,     k.v_from_v,
+                                 k.v_from_start, k.v_from_end,   k.a_from_d,
+                                 k.a_from_v,     k.a_from_start, k.a_from_end};
+      for (int c = 0; c < 12; ++c) lanes[c][b][l] = values[c];
     }
-    d[b] = v[b] = peak[b] = Lanes{};
   }
+  Lanes dd[kVectors], dv[kVectors], ds[kVectors], de[kVectors];
+  Lanes vd[kVectors], vv[kVectors], vs[kVectors], ve[kVectors];
+  Lanes ad[kVectors], av[kVectors], as[kVectors], ae[kVectors];
+  Lanes* const targets[12] = {dd, dv, ds, de, vd, vv, vs, ve, ad, av, as, ae};
+  for (int c = 0; c < 12; ++c) {
+    std::memcpy(targets[c], lanes[c], sizeof lanes[c]);
+  }
+  Lanes d[kVectors]{}, v[kVectors]{}, peak[kVectors]{};
   for (std::size_t i = 0; i < n; ++i) {
     const double p0 = forcing[i];
     const double p1 = forcing[i + 1];
