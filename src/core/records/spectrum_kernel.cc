@@ -146,9 +146,9 @@ bool HasAvx2() {
 }
 #endif
 
-void RunJobBest(const BlockJob& job) {
+void RunJobWith(KernelCode code, const BlockJob& job) {
 #if defined(__x86_64__) || defined(__i386__)
-  if (HasAvx2()) {
+  if (code == KernelCode::kBest && HasAvx2()) {
     RunJobAvx2(job);
     return;
   }
@@ -172,8 +172,8 @@ std::vector<double> BuildForcing(std::span<const double> accel,
 
 void IntegratePeaks(std::span<const double> forcing,
                     std::span<const OscillatorCoefficients> oscillators,
-                    PeakResponse response, std::span<double> peaks,
-                    int threads) {
+                    PeakResponse response, std::span<double> peaks, int threads,
+                    KernelCode code) {
   const std::size_t count = std::min(oscillators.size(), peaks.size());
   if (count == 0) return;
   if (forcing.empty()) {
@@ -196,12 +196,12 @@ void IntegratePeaks(std::span<const double> forcing,
   std::vector<std::thread> helpers;
   for (std::size_t t = 1; t < wanted; ++t) {
     try {
-      helpers.emplace_back(RunJobBest, std::cref(job));
+      helpers.emplace_back(RunJobWith, code, std::cref(job));
     } catch (const std::system_error&) {
       break;  // fewer threads: the blocks are shared by those that started
     }
   }
-  RunJobBest(job);
+  RunJobWith(code, job);
   for (std::thread& helper : helpers) helper.join();
 }
 

@@ -25,13 +25,20 @@ enum class PeakResponse {
   kAbsoluteAcceleration,
 };
 
+// Which instructions the integrator may use: the best the processor offers,
+// or the portable code every processor runs (the same results).
+enum class KernelCode {
+  kBest,
+  kPortable,
+};
+
 // peaks[o] = the chosen peak of oscillator o over the record whose forcing
 // is `forcing`. `threads` <= 0 uses every core; small jobs run on the
-// calling thread. peaks.size() must equal oscillators.size().
+// calling thread. Oscillators beyond peaks.size() are left out.
 void IntegratePeaks(std::span<const double> forcing,
                     std::span<const OscillatorCoefficients> oscillators,
                     PeakResponse response, std::span<double> peaks,
-                    int threads = 0);
+                    int threads = 0, KernelCode code = KernelCode::kBest);
 
 }  // namespace zel
 

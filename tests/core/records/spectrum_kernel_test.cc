@@ -52,7 +52,10 @@ TEST(SpectrumKernelTest, FastIntegratorAgreesWithTheScalarStepLoop) {
           PeakResponse::kAbsoluteAcceleration}) {
       for (int threads : {1, 2, 3}) {
         std::vector<double> peaks(oscillators.size(), -1.0);
-        IntegratePeaks(forcing, oscillators, response, peaks, threads);
+        // The portable code and the processor's best, on alternate runs.
+        IntegratePeaks(
+            forcing, oscillators, response, peaks, threads,
+            threads == 2 ? KernelCode::kPortable : KernelCode::kBest);
         for (int o = 0; o < count; ++o) {
           const double expected = Chosen(
               IntegrateOscillator(accel, at_zero, oscillators[o]), response);
@@ -65,6 +68,27 @@ TEST(SpectrumKernelTest, FastIntegratorAgreesWithTheScalarStepLoop) {
         }
       }
     }
+  }
+}
+
+TEST(SpectrumKernelTest, JobsLargeEnoughForSeveralThreadsAgreeToo) {
+  std::mt19937_64 random(99);
+  std::uniform_real_distribution<double> unit(-1.0, 1.0);
+  std::vector<double> accel(20000);
+  for (double& a : accel) a = unit(random) * 3000.0;
+  std::vector<OscillatorCoefficients> oscillators;
+  for (int o = 0; o < 123; ++o) {
+    oscillators.push_back(ComputeOscillatorCoefficients(
+        kSpectrumTwoPi / (0.05 + o * 0.04), (o % 6) * 0.04, 0.005));
+  }
+  const std::vector<double> forcing = BuildForcing(accel, false);
+  std::vector<double> peaks(oscillators.size());
+  IntegratePeaks(forcing, oscillators, PeakResponse::kAbsoluteAcceleration,
+                 peaks, 2);
+  for (std::size_t o = 0; o < oscillators.size(); ++o) {
+    const double expected =
+        IntegrateOscillator(accel, false, oscillators[o]).absolute_acceleration;
+    EXPECT_NEAR(peaks[o], expected, 1e-12 * expected) << o;
   }
 }
 
