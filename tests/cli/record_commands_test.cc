@@ -191,6 +191,13 @@ TEST(RecordCommandsTest, FftWritesTheFrequencySpectrum) {
   EXPECT_EQ(r.out, "Maximum at 2.93 Hz\n");
   EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
 
+  // A silent record has a spectrum of 0 / 0: NaN ordinates are written.
+  WriteAll(dir / "silent.dbs", "0, 0\n0.01, 0\n0.02, 0\n0.03, 0\n");
+  const auto silent = RunCli("fft " + Quoted(dir / "silent.dbs") + " -o " +
+                             Quoted(dir / "silent.csv"));
+  EXPECT_EQ(silent.status, 0) << silent.out;
+  EXPECT_THAT(ReadAll(dir / "silent.csv"), HasSubstr("\n25,-nan\n50,-nan\n"));
+
   // One sample: no spectrum.
   WriteAll(dir / "one.dbs", "0, 1\n");
   const auto one = RunCli("fft " + Quoted(dir / "one.dbs") + " -o " +
