@@ -88,6 +88,7 @@ ZEL_ALWAYS_INLINE void IntegrateBlock(const double* forcing, std::size_t n,
   }
 }
 
+// Takes blocks from `next` until none is left.
 template <PeakResponse kResponse>
 ZEL_ALWAYS_INLINE void IntegrateBlocksOf(const double* forcing, std::size_t n,
                                          const OscillatorCoefficients* osc,
@@ -102,7 +103,7 @@ ZEL_ALWAYS_INLINE void IntegrateBlocksOf(const double* forcing, std::size_t n,
   }
 }
 
-// Takes blocks from `next` until none is left.
+// One integration, shared by the threads that work on it.
 struct BlockJob {
   const double* forcing;
   std::size_t n;
