@@ -3,6 +3,7 @@
 
 #include "cli/design_command.h"
 #include "cli/file_commands.h"
+#include "cli/record_commands.h"
 
 int main(int argc, char** argv) {
   CLI::App app{"ZEL command line: seismic input data without the GUI",
@@ -10,6 +11,7 @@ int main(int argc, char** argv) {
   app.require_subcommand(1);
   zel::cli::AddFileCommands(app);
   zel::cli::AddDesignCommand(app);
+  zel::cli::AddRecordCommands(app);
   CLI11_PARSE(app, argc, argv);
   return 0;
 }

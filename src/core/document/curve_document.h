@@ -126,6 +126,21 @@ class CZELwDoc {
   double record_time_step = 0.0;
   std::string record_name;
 
+  // --- Records, response spectra and the time/frequency switch ---
+  // Record values are kept in g and acceleration results are not divided by
+  // g (set for record documents).
+  int results_in_g = 0;
+  // The user asked for a logarithmic period axis.
+  int log_period_axis = 0;
+  // The chart's axis-display switch, toggled by the spectrum generator.
+  int axis_display = 0;
+  // 0 while the time history is shown, 1 while the frequency spectrum is.
+  int frequency_mode = 0;
+  // Step of the x-axis ticks for the view; 0 lets the view choose.
+  double x_axis_step = 0.0;
+  // Index in chart.labels of the generator's result label, -1 when none.
+  int context_label_index = -1;
+
   ChartModel chart;
   std::function<void()> on_update;
 

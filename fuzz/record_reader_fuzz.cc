@@ -1,0 +1,44 @@
+// Feeds arbitrary bytes to the record reader, and what it accepts to the
+// time-history curve, the frequency switch and a small response spectrum.
+#include <cstdint>
+#include <cstdio>
+#include <vector>
+
+#include "core/document/curve_document.h"
+#include "core/document/messages.h"
+#include "core/records/frequency_switch.h"
+#include "core/records/record_curve.h"
+#include "core/records/response_spectrum.h"
+
+namespace {
+
+std::FILE* OpenBytes(std::vector<char>& bytes) {
+  if (bytes.empty()) return std::fopen("/dev/null", "r");
+  return fmemopen(bytes.data(), bytes.size(), "r");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
+                                      std::size_t size) {
+  std::vector<char> bytes(data, data + size);
+  zel::MessageLog log;
+
+  zel::CZELwDoc record;
+  zel::PrepareRecordDocument(record, 1.0, 1.0, "fuzz");
+  if (zel::ShowRecordCurve(record, OpenBytes(bytes), log) == 1) {
+    zel::SwitchTimeFrequency(record, log);
+    zel::SwitchTimeFrequency(record, log);
+  }
+
+  zel::CZELwDoc spectrum;
+  zel::SpectrumSettings settings;
+  settings.damping = {0.0, 0.05, 0.999};
+  settings.damping_count = 3;
+  settings.period_from = 0.0;
+  settings.period_to = 2.0;
+  settings.period_count = 4;
+  zel::PrepareSpectrumDocument(spectrum, settings);
+  zel::ComputeResponseSpectrum(spectrum, OpenBytes(bytes), log);
+  return 0;
+}

@@ -1,0 +1,46 @@
+#include "core/records/chart_setup.h"
+
+namespace zel {
+namespace {
+
+// Where the context label sits, in per cent of the chart area: the upper
+// right, clear of the title lines.
+constexpr double kContextLabelX = 55.0;
+constexpr double kContextLabelY = 12.0;
+
+bool HasContextLabel(const CZELwDoc& doc) {
+  return doc.context_label_index >= 0 &&
+         static_cast<std::size_t>(doc.context_label_index) <
+             doc.chart.labels.size();
+}
+
+}  // namespace
+
+void SetUpChart(CZELwDoc& doc) {
+  doc.RefreshChartTitle();
+  // The styles command toggles the thickness; twice gives the colours alone.
+  doc.ApplySeriesStyles();
+  doc.ApplySeriesStyles();
+}
+
+void SetContextLabel(CZELwDoc& doc, const std::string& text) {
+  if (HasContextLabel(doc)) {
+    doc.chart.labels[static_cast<std::size_t>(doc.context_label_index)]
+        .content = text;
+    return;
+  }
+  ChartLabel label;
+  label.content = text;
+  label.x_percent = kContextLabelX;
+  label.y_percent = kContextLabelY;
+  doc.AddLabel(label);
+  doc.context_label_index = static_cast<int>(doc.chart.labels.size()) - 1;
+}
+
+std::string ContextLabel(const CZELwDoc& doc) {
+  if (!HasContextLabel(doc)) return "";
+  return doc.chart.labels[static_cast<std::size_t>(doc.context_label_index)]
+      .content;
+}
+
+}  // namespace zel

@@ -1,0 +1,55 @@
+#include "core/records/record_curve.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/document/c_format.h"
+#include "core/records/chart_setup.h"
+#include "core/records/record_reader.h"
+
+namespace zel {
+
+void PrepareRecordDocument(CZELwDoc& doc, double amplitude_scale,
+                           double time_scale, const std::string& record_name) {
+  doc.results_in_g = 1;
+  doc.amplitude_scale = amplitude_scale;
+  doc.time_scale = time_scale;
+  doc.record_name = record_name;
+}
+
+RecordPeak StoreTimeHistory(CZELwDoc& doc) {
+  RecordPeak peak;
+  const int count = std::min(doc.record_sample_count,
+                             static_cast<int>(doc.record_samples.size()));
+  for (int k = 0; k < count; ++k) {
+    const RecordSample& sample = doc.record_samples[k];
+    doc.SetPoint(k, 0, sample.time, sample.value, 0);
+    const double magnitude = std::fabs(sample.value);
+    if (magnitude >= peak.magnitude) {
+      peak.magnitude = magnitude;
+      peak.time = sample.time;
+    }
+  }
+  return peak;
+}
+
+int ShowRecordCurve(CZELwDoc& doc, std::FILE* file, MessageSink& messages) {
+  if (ReadRecordFile(doc, file, messages) != 1) {
+    messages.Show("an Error occurred while reading data!");
+    return 0;
+  }
+  doc.record_flag = 1;
+  const RecordPeak peak = StoreTimeHistory(doc);
+  doc.SetAxisTitle(1, "Ground Accel. (g)");
+  doc.SetAxisTitle(0, "Time (sec)");
+  doc.title = "Earthquake Record";
+  doc.subtitle = doc.record_name;
+  SetUpChart(doc);
+  doc.SetTitle(doc.title);
+  SetContextLabel(
+      doc, CFormat("Max = %8.4f(g) at %6.3f sec", peak.magnitude, peak.time));
+  doc.UpdateAllViews();
+  return 1;
+}
+
+}  // namespace zel

@@ -1,0 +1,36 @@
+// The time-history curve ("Earthquake Record") of a record document.
+#ifndef ZEL_CORE_RECORDS_RECORD_CURVE_H_
+#define ZEL_CORE_RECORDS_RECORD_CURVE_H_
+
+#include <cstdio>
+#include <string>
+
+#include "core/document/curve_document.h"
+#include "core/document/messages.h"
+
+namespace zel {
+
+// What the record dialog hands to a new record document before reading:
+// results in g, the scales and the record name.
+void PrepareRecordDocument(CZELwDoc& doc, double amplitude_scale,
+                           double time_scale, const std::string& record_name);
+
+// Reads the record from `file` (taking ownership) and makes it the
+// document's first curve, titled and labelled with its peak. Returns 1 on
+// success; on failure shows "an Error occurred while reading data!" after
+// the reader's own message, leaves the curves empty and returns 0.
+int ShowRecordCurve(CZELwDoc& doc, std::FILE* file, MessageSink& messages);
+
+struct RecordPeak {
+  double magnitude = 0.0;  // |acceleration|
+  double time = 0.0;
+};
+
+// Stores every record sample as point k of curve 0 (without the last mark)
+// and returns the peak |acceleration| with its time; among equal peaks the
+// last one wins.
+RecordPeak StoreTimeHistory(CZELwDoc& doc);
+
+}  // namespace zel
+
+#endif  // ZEL_CORE_RECORDS_RECORD_CURVE_H_

@@ -1,0 +1,208 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "cli/cli_runner.h"
+#include "core/document/c_format.h"
+#include "core/document/data_file.h"
+#include "core/document/test_files.h"
+#include "core/records/chart_setup.h"
+#include "core/records/frequency_switch.h"
+#include "core/records/record_curve.h"
+#include "core/records/response_spectrum.h"
+
+namespace zel {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+using zel::testing::OpenBytes;
+using zel::testing::ReadAll;
+using zel::testing::RunCli;
+using zel::testing::TempDir;
+using zel::testing::WriteAll;
+
+std::string Quoted(const std::filesystem::path& path) {
+  return "'" + path.string() + "'";
+}
+
+// A small record: a decaying 3 Hz sine sampled at 0.01 s.
+std::string SmallRecord(int n = 600) {
+  std::string text = "** test record\n";
+  for (int i = 0; i < n; ++i) {
+    const double t = i * 0.01;
+    text += CFormat("%.2f, %.6f\n", t,
+                    0.4 * std::sin(2 * M_PI * 3 * t) * std::exp(-0.3 * t));
+  }
+  return text;
+}
+
+// What the GUI saves for the same inputs: the same document operations and
+// the same writer.
+std::string SavedBytes(const CZELwDoc& doc, const TempDir& dir) {
+  MessageLog log;
+  EXPECT_TRUE(WriteDataFile(doc, (dir / "expected.zel").string(), log));
+  return ReadAll(dir / "expected.zel");
+}
+
+TEST(RecordCommandsTest, CatalogListsEveryEntryWithItsCaption) {
+  const auto r = RunCli("catalog");
+  EXPECT_EQ(r.status, 0);
+  EXPECT_THAT(r.out, StartsWith(" 1  1940, El Centro Site, 270 Deg\n"
+                                "    Peak = 0.3569 g  Duration = 53.72 sec\n"));
+  EXPECT_THAT(r.out, HasSubstr("\n 4  1952, Taft Lincoln School, 69 Deg\n"
+                               "    Peak = -0.1557   Duration = 54.38 sec\n"));
+  EXPECT_THAT(r.out, HasSubstr("\n53  T2-III-3(1995, HYOUGOKEN_South, EW)\n"));
+  EXPECT_EQ(std::count(r.out.begin(), r.out.end(), '\n'), 106);
+}
+
+TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
+  TempDir dir;
+  const std::string record = SmallRecord();
+  WriteAll(dir / "quake.dbs", record);
+  auto r =
+      RunCli("record " + Quoted(dir / "quake.dbs") +
+             " --amp-scale 0.5 --time-scale 2 -o " + Quoted(dir / "out.zel"));
+  ASSERT_EQ(r.status, 0) << r.out;
+
+  CZELwDoc doc;
+  PrepareRecordDocument(doc, 0.5, 2.0, "User EQ : quake.dbs");
+  MessageLog log;
+  ASSERT_EQ(ShowRecordCurve(doc, OpenBytes(record), log), 1);
+  EXPECT_EQ(r.out, ContextLabel(doc) + "\n");
+  EXPECT_THAT(r.out, StartsWith("Max =   0.1"));
+  EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
+
+  // A catalog entry by number or title, from the dbase/ folder of --base.
+  std::filesystem::create_directory(dir / "dbase");
+  WriteAll(dir / "dbase" / "Taft_h.dbs", record);
+  r = RunCli("record 4 --base " + Quoted(dir.path()) + " -o " +
+             Quoted(dir / "taft.csv"));
+  ASSERT_EQ(r.status, 0) << r.out;
+  EXPECT_THAT(ReadAll(dir / "taft.csv"),
+              StartsWith("\"Time (sec)\",\"Earthquake Record: Ground Accel. "
+                         "(g)\"\n0,0\n0.01,0.0"));
+  r = RunCli("record '1952, Taft Lincoln School, 69 Deg' --base " +
+             Quoted(dir.path()) + " -o " + Quoted(dir / "taft.zel"));
+  ASSERT_EQ(r.status, 0) << r.out;
+  EXPECT_THAT(ReadAll(dir / "taft.zel"),
+              HasSubstr("*TITLE, 1952, Taft Lincoln School, 69 Deg\n"));
+
+  // Missing files and bad records end with the system's messages.
+  r = RunCli("record 5 --base " + Quoted(dir.path()) + " -o " +
+             Quoted(dir / "x.zel"));
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out, "ERROR! File Not Found!\n");
+  r = RunCli("record 54 -o " + Quoted(dir / "x.zel"));
+  EXPECT_EQ(r.status, 1);
+  WriteAll(dir / "empty.dbs", "");
+  r = RunCli("record " + Quoted(dir / "empty.dbs") + " -o " +
+             Quoted(dir / "x.zel"));
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out,
+            "Error : No Data Found!\nan Error occurred while reading data!\n");
+  r = RunCli("record " + Quoted(dir / "quake.dbs") + " --amp-scale 1,5 -o " +
+             Quoted(dir / "x.zel"));
+  EXPECT_EQ(r.status, 1);
+  EXPECT_THAT(r.out, HasSubstr("--amp-scale: not a number: 1,5"));
+  EXPECT_FALSE(std::filesystem::exists(dir / "x.zel"));
+}
+
+TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
+  TempDir dir;
+  const std::string record = SmallRecord();
+  WriteAll(dir / "quake.dbs", record);
+  auto r = RunCli("spectrum " + Quoted(dir / "quake.dbs") +
+                  " --damping 0.02,0.05 --kind dva --from 0 --to 5"
+                  " --steps 50 -o " +
+                  Quoted(dir / "out.zel"));
+  ASSERT_EQ(r.status, 0) << r.out;
+
+  SpectrumSettings settings;
+  settings.kind = kCombinedDVA;
+  settings.damping[0] = 0.02;
+  settings.damping[1] = 0.05;
+  settings.damping_count = 2;
+  settings.period_from = 0.0;
+  settings.period_to = 5.0;
+  settings.period_count = 50;
+  settings.record_name = "User EQ : quake.dbs";
+  CZELwDoc doc;
+  PrepareSpectrumDocument(doc, settings);
+  MessageLog log;
+  ASSERT_EQ(ComputeResponseSpectrum(doc, OpenBytes(record), log), 1);
+  const std::string expected = SavedBytes(doc, dir);
+  EXPECT_EQ(ReadAll(dir / "out.zel"), expected);
+  EXPECT_THAT(expected, HasSubstr("*FLAGS, 1, 1\n*DATA\n*DAMPING, 0.02\n"
+                                  "1.00000E-002\t,"));
+
+  // --log raises "from"; CSV output.
+  r = RunCli("spectrum " + Quoted(dir / "quake.dbs") +
+             " --kind sd --from 0 --to 2 --steps 20 --log -o " +
+             Quoted(dir / "k.csv"));
+  EXPECT_EQ(r.status, 0) << r.out;
+  EXPECT_THAT(ReadAll(dir / "k.csv"), HasSubstr("\n0.009999999776482582,"));
+
+  // Out-of-range settings are refused before anything is written.
+  for (const char* bad :
+       {"--steps 0", "--steps 5001", "--steps 2.5", "--kind xyz",
+        "--damping 1.5", "--damping 0,0,0,0,0,0,0", "--from -1", "--to 101",
+        "--damping abc", "--amp-scale 101"}) {
+    r = RunCli("spectrum " + Quoted(dir / "quake.dbs") + " " + bad + " -o " +
+               Quoted(dir / "bad.zel"));
+    EXPECT_EQ(r.status, 1) << bad;
+    EXPECT_FALSE(r.out.empty()) << bad;
+  }
+  EXPECT_FALSE(std::filesystem::exists(dir / "bad.zel"));
+
+  // A time scale of 0 and from = to are defined results, not failures.
+  r = RunCli("spectrum " + Quoted(dir / "quake.dbs") +
+             " --time-scale 0 --from 1 --to 1 --steps 3 -o " +
+             Quoted(dir / "zero.zel"));
+  EXPECT_EQ(r.status, 0) << r.out;
+  // A file that is not a record.
+  WriteAll(dir / "text.dbs", "no commas here\nat all\n");
+  r = RunCli("spectrum " + Quoted(dir / "text.dbs") + " -o " +
+             Quoted(dir / "bad.zel"));
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.out,
+            "Error : Wrong Format!\nan Error occurred while reading data!\n");
+}
+
+TEST(RecordCommandsTest, FftWritesTheFrequencySpectrum) {
+  TempDir dir;
+  const std::string record = SmallRecord(1000);
+  WriteAll(dir / "quake.dbs", record);
+  const auto r = RunCli("fft " + Quoted(dir / "quake.dbs") + " -o " +
+                        Quoted(dir / "out.zel"));
+  ASSERT_EQ(r.status, 0) << r.out;
+  CZELwDoc doc;
+  PrepareRecordDocument(doc, 1.0, 1.0, "User EQ : quake.dbs");
+  MessageLog log;
+  ASSERT_EQ(ShowRecordCurve(doc, OpenBytes(record), log), 1);
+  ASSERT_TRUE(SwitchTimeFrequency(doc, log));
+  EXPECT_EQ(r.out, "Maximum at 2.93 Hz\n");
+  EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
+
+  // A silent record has a spectrum of 0 / 0: NaN ordinates are written.
+  WriteAll(dir / "silent.dbs", "0, 0\n0.01, 0\n0.02, 0\n0.03, 0\n");
+  const auto silent = RunCli("fft " + Quoted(dir / "silent.dbs") + " -o " +
+                             Quoted(dir / "silent.csv"));
+  EXPECT_EQ(silent.status, 0) << silent.out;
+  EXPECT_THAT(ReadAll(dir / "silent.csv"), HasSubstr("\n25,-nan\n50,-nan\n"));
+
+  // One sample: no spectrum.
+  WriteAll(dir / "one.dbs", "0, 1\n");
+  const auto one = RunCli("fft " + Quoted(dir / "one.dbs") + " -o " +
+                          Quoted(dir / "one.zel"));
+  EXPECT_EQ(one.status, 1);
+  EXPECT_FALSE(one.out.empty());
+}
+
+}  // namespace
+}  // namespace zel
