@@ -1,0 +1,19 @@
+// CDLG_IBC2000: the IBC2000(ASCE7-98) design spectrum dialog, with site
+// class and seismic design category as radio buttons.
+#ifndef ZEL_APP_DIALOGS_CDLG_IBC2000_H_
+#define ZEL_APP_DIALOGS_CDLG_IBC2000_H_
+
+#include "app/dialogs/design_code_dialog.h"
+
+namespace zel::app {
+
+class CDLG_IBC2000 : public DesignCodeDialog {
+  Q_OBJECT
+
+ public:
+  explicit CDLG_IBC2000(CZELwApp& app, QWidget* parent = nullptr);
+};
+
+}  // namespace zel::app
+
+#endif  // ZEL_APP_DIALOGS_CDLG_IBC2000_H_

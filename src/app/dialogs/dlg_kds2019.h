@@ -1,0 +1,19 @@
+// DLG_KDS2019: the KDS(41-17-00:2019) design spectrum dialog: drop-down
+// lists, and the unit g after Sds and Sd1.
+#ifndef ZEL_APP_DIALOGS_DLG_KDS2019_H_
+#define ZEL_APP_DIALOGS_DLG_KDS2019_H_
+
+#include "app/dialogs/design_code_dialog.h"
+
+namespace zel::app {
+
+class DLG_KDS2019 : public DesignCodeDialog {
+  Q_OBJECT
+
+ public:
+  explicit DLG_KDS2019(CZELwApp& app, QWidget* parent = nullptr);
+};
+
+}  // namespace zel::app
+
+#endif  // ZEL_APP_DIALOGS_DLG_KDS2019_H_
