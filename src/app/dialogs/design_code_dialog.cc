@@ -192,6 +192,20 @@ void DesignCodeDialog::ShowValues(const ParamValues& values) {
 }
 
 void DesignCodeDialog::UpdateEnabling(const ParamValues& values) {
+  // A group box is greyed, caption and all, once none of its fields (nor
+  // those of the groups inside it) can be edited.
+  std::map<std::string, bool> group_on;
+  for (const auto& [name, field] : fields_) {
+    const bool on = IsFieldEnabled(code_, values, name);
+    for (std::string g = field.param->group; !g.empty();) {
+      group_on[g] = group_on[g] || on;
+      const auto outer = layout_.nested_groups.find(g);
+      g = outer == layout_.nested_groups.end() ? std::string() : outer->second;
+    }
+  }
+  for (const auto& [group, on] : group_on) {
+    groups_.at(group)->parentWidget()->setEnabled(on);
+  }
   for (auto& [name, field] : fields_) {
     const bool on = IsFieldEnabled(code_, values, name);
     if (layout_.read_only_when_locked.count(name) && field.edit != nullptr) {
