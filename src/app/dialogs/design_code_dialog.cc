@@ -15,7 +15,6 @@
 #include <cstddef>
 
 #include "app/shell/zelw_app.h"
-#include "core/document/c_format.h"
 
 namespace zel::app {
 namespace {
