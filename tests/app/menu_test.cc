@@ -16,7 +16,8 @@ QStringList MenuRows(QMenuBar* bar) {
                                                          const QString& path) {
     for (QAction* a : menu->actions()) {
       if (!a->isVisible() || a->isSeparator()) continue;
-      const QString item = path + QLatin1Char('/') + a->text();
+      const QString item =
+          path + QLatin1Char('/') + QString(a->text()).replace("&&", "&");
       if (a->menu()) {
         walk(a->menu(), item);
         continue;

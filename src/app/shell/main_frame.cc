@@ -92,8 +92,12 @@ void CMainFrame::BuildMenus() {
       if (!design_menu_) design_menu_ = menu->addMenu(QLatin1String(e.submenu));
       menu = design_menu_;
     }
-    QAction* action = e.id == 0 ? menu->addSeparator()
-                                : menu->addAction(QLatin1String(e.text));
+    // An "&" in a menu text is a mnemonic to Qt; "Newmark & Hall" must
+    // show its ampersand.
+    QAction* action =
+        e.id == 0 ? menu->addSeparator()
+                  : menu->addAction(QString(QLatin1String(e.text))
+                                        .replace(QLatin1Char('&'), "&&"));
     action->setData(e.id);
     action->setProperty("zel_scope", static_cast<int>(e.scope));
     if (e.id == 0) continue;
