@@ -36,10 +36,19 @@ AxisRange FitLog(Bounds b, bool clamp, double log_min) {
   return r;
 }
 
-AxisRange FitLinear(Bounds b, bool from_zero) {
+// Room left above a curve's peak (and below a negative trough) so that a
+// plateau does not run along the frame, in parts of the data's span.
+constexpr double kHeadroom = 0.05;
+
+AxisRange FitLinear(Bounds b, bool is_y) {
   if (b.empty()) return {0.0, 1.0};
-  if (from_zero && b.min > 0.0) b.min = 0.0;
-  if (b.max > b.min) return {b.min, b.max};
+  if (is_y && b.min > 0.0) b.min = 0.0;
+  if (b.max > b.min) {
+    if (!is_y) return {b.min, b.max};
+    const double room = kHeadroom * (b.max - b.min);
+    return {b.min < 0.0 ? b.min - room : b.min,
+            b.max > 0.0 ? b.max + room : b.max};
+  }
   const double half = b.min == 0.0 ? 1.0 : std::fabs(b.min) * 0.5;
   return {b.min - half, b.max + half};
 }

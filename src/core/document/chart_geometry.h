@@ -38,7 +38,8 @@ struct ChartRanges {
 
 // Ranges that show every drawable point of `series`. Log axes span whole
 // decades and, while the log-range handling is on, start no lower than its
-// minimum; a linear Y axis of positive values starts at 0. An empty or flat
+// minimum; a linear Y axis of positive values starts at 0 and leaves a
+// little room above the highest value. An empty or flat
 // set of values still gives a valid, non-empty range.
 ChartRanges FitChartRanges(const CZELwDoc& doc,
                            const std::vector<PlotSeries>& series);

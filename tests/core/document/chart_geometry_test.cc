@@ -39,9 +39,11 @@ TEST(ChartGeometryTest, RangesAreValidForAnyData) {
   EXPECT_EQ(r.y, (AxisRange{-1.0, 1.0}));
   r = FitChartRanges(doc, {{{0.0, 6.0}, {0.5, 1.2}}, {{1.0}, {2.0}}});
   EXPECT_EQ(r.x, (AxisRange{0.0, 6.0}));
-  EXPECT_EQ(r.y, (AxisRange{0.0, 2.0}));  // positive Y starts at 0
+  EXPECT_EQ(r.y.lower, 0.0);  // positive Y starts at 0, with headroom
+  EXPECT_DOUBLE_EQ(r.y.upper, 2.1);
   r = FitChartRanges(doc, {{{0.0, 6.0}, {-0.5, 1.2}}});
-  EXPECT_EQ(r.y, (AxisRange{-0.5, 1.2}));
+  EXPECT_DOUBLE_EQ(r.y.lower, -0.585);
+  EXPECT_DOUBLE_EQ(r.y.upper, 1.285);
 
   // Log axes span whole decades; the log-range minimum bounds them below.
   doc.log_x = doc.log_y = 1;
