@@ -52,17 +52,6 @@ std::string ChoiceKeys(const ParamDescriptor& param) {
   return keys;
 }
 
-bool SameIgnoringCase(const std::string& a, const std::string& b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    if (std::tolower(static_cast<unsigned char>(a[i])) !=
-        std::tolower(static_cast<unsigned char>(b[i]))) {
-      return false;
-    }
-  }
-  return true;
-}
-
 // A whole decimal number, in the C locale whatever the user's locale.
 bool IsNumberText(const std::string& text) {
   const char* first = text.data();
@@ -96,10 +85,8 @@ std::string ControlText(const ParamDescriptor& param, const std::string& text) {
       }
       return text;
     case ParamKind::kChoice:
-      for (std::size_t i = 0; i < param.keys.size(); ++i) {
-        if (SameIgnoringCase(param.keys[i], text)) {
-          return CFormat("%d", static_cast<int>(i));
-        }
+      if (const int index = FindChoiceKey(param, text); index >= 0) {
+        return CFormat("%d", index);
       }
       Fail("--" + param.name + ": '" + text + "' is not one of " +
            ChoiceKeys(param));

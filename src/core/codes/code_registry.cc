@@ -31,6 +31,13 @@ const std::vector<CodeEntry>& DesignCodes() {
   return codes;
 }
 
+int FindChoiceKey(const ParamDescriptor& param, std::string_view key) {
+  for (std::size_t i = 0; i < param.keys.size(); ++i) {
+    if (SameIgnoringCase(param.keys[i], key)) return static_cast<int>(i);
+  }
+  return -1;
+}
+
 const CodeEntry* FindDesignCode(std::string_view id) {
   for (const CodeEntry& code : DesignCodes()) {
     if (SameIgnoringCase(code.id, id)) return &code;

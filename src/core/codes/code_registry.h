@@ -71,6 +71,9 @@ const CodeEntry* FindDesignCode(std::string_view id);
 // The controls' texts when the dialog opens.
 ParamValues DefaultValues(const CodeEntry& code);
 const ParamDescriptor* FindParam(const CodeEntry& code, std::string_view name);
+// The index of the choice whose command-line key is `key`, ignoring case; -1
+// when there is none.
+int FindChoiceKey(const ParamDescriptor& param, std::string_view key);
 
 // The hooks, with their defaults for codes that leave them empty.
 bool NotifyChanged(const CodeEntry& code, ParamValues& values,
