@@ -11,10 +11,33 @@
 // fills it, sets its title and calls doc->UpdateAllViews().
 #include "app/shell/command_registry.h"
 
+// Records, response spectra and the Time<->Frequency switch.
+#include "app/dialogs/earth_dlg.h"
+#include "app/dialogs/eq_rec_dlg.h"
+#include "app/shell/child_frame.h"
+#include "app/shell/command_table.h"
+#include "app/shell/main_frame.h"
+#include "app/shell/zelw_app.h"
+#include "core/records/frequency_switch.h"
+
 namespace zel::app {
 
 void RegisterCommands(CommandRegistry& registry) {
-  (void)registry;  // no such dialog or operation is available yet
+  // Records, response spectra and the Time<->Frequency switch.
+  registry.Register(ID_GENERATE_EQ_RECORD, [](CMainFrame& frame) {
+    EQ_REC_DLG dialog(frame.app(), &frame);
+    frame.app().RunDialog(dialog);
+  });
+  registry.Register(ID_GENERATE_RESPONSE_SPECTRA, [](CMainFrame& frame) {
+    EarthDlg dialog(frame.app(), &frame);
+    frame.app().RunDialog(dialog);
+  });
+  registry.Register(ID_VIEW_TIME_FREQUENCY, [](CMainFrame& frame) {
+    // Only a record document switches; any other stays as it is.
+    if (CChildFrame* child = frame.ActiveChild()) {
+      SwitchTimeFrequency(child->GetDocument(), frame.app().messages());
+    }
+  });
 }
 
 }  // namespace zel::app
