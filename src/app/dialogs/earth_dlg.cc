@@ -37,7 +37,9 @@ EarthDlg::EarthDlg(CZELwApp& app, QWidget* parent)
     damping_[i]->setEnabled(i == 0);
     damping_grid->addWidget(damping_[i], i / 3, i % 3);
   }
+  add_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   damping_grid->addWidget(add_, 0, 3);
+  damping_grid->setColumnStretch(4, 1);
 
   auto* period_group = new QGroupBox(QStringLiteral("Output Period"));
   auto* period_grid = new QGridLayout(period_group);

@@ -58,6 +58,8 @@ void ChartWidget::SetScale(QCPAxis* axis, bool log, double step) {
       return;
     }
     axis->setScaleType(scale);
+    // Multiples of a bin width are seldom round: three digits suffice.
+    axis->setNumberPrecision(3);
     auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
     ticker->setTickStep(step);
     ticker->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
@@ -65,6 +67,7 @@ void ChartWidget::SetScale(QCPAxis* axis, bool log, double step) {
     return;
   }
   if (axis->scaleType() == scale && axis->ticker() && !fixed) return;
+  axis->setNumberPrecision(6);
   axis->setScaleType(scale);
   if (log) {
     auto ticker = QSharedPointer<QCPAxisTickerLog>::create();
