@@ -5,19 +5,6 @@
 namespace zel {
 namespace {
 
-TEST(CurveDocumentTest, DefaultsOfANewDocument) {
-  const CZELwDoc doc;
-  EXPECT_EQ(doc.unit, "GRAV");
-  EXPECT_EQ(doc.type, "ACCEL");
-  EXPECT_EQ(doc.gravity, 9815.0);
-  EXPECT_EQ(doc.pi, 3.141592);
-  EXPECT_EQ(doc.curve_count, 1);
-  EXPECT_EQ(doc.grid_x, 1);
-  EXPECT_EQ(doc.grid_y, 1);
-  EXPECT_EQ(doc.diagonal_grid, 1);
-  EXPECT_EQ(doc.log_x + doc.log_y + doc.tripartite + doc.thick_lines, 0);
-}
-
 TEST(CurveDocumentTest, PointCountRuleLeavesGeneratedCurvesOnePointShort) {
   CZELwDoc doc;
   for (int i = 0; i <= 100; ++i) doc.SetPoint(i, 2, 0.01 * i, 1.0 + i, 0);
