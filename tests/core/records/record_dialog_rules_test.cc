@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
+#include <vector>
 
 #include "core/records/range_check.h"
 #include "core/records/record_catalog.h"
@@ -47,8 +49,9 @@ TEST(RecordDialogRulesTest, ChosenRecordTexts) {
 }
 
 TEST(RecordDialogRulesTest, SpectrumChoices) {
+  const auto names = SpectrumTypeNames();
   EXPECT_THAT(
-      SpectrumTypeNames(),
+      std::vector<std::string>(names.begin(), names.end()),
       ElementsAre("Pseudo Acceleration", "Pseudo Velocity",
                   "Absolute Acceleration", "Relative Velocity",
                   "Relative Displacement", "Combined D-V-A (Tripartite)"));
