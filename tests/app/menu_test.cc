@@ -176,15 +176,15 @@ TEST_F(AppFixture, MenuStatesFollowTheActiveDocument) {
   frame().OnCommand(ID_OPTION_DIAGONAL_GRID);
   EXPECT_FALSE(checked(ID_OPTION_DIAGONAL_GRID));
 
-  // A record in g: log toggles work, no diagonal grid, no unit conversion;
-  // Time<->Frequency only once its operation exists.
+  // A record in g: log toggles work, no diagonal grid, no unit conversion,
+  // Time<->Frequency.
   CZELwDoc* record = app_->NewDocument(0);
   record->record_flag = 1;
   EXPECT_TRUE(enabled(ID_OPTION_XLOG));
   EXPECT_FALSE(checked(ID_OPTION_XLOG));
   EXPECT_FALSE(enabled(ID_OPTION_DIAGONAL_GRID));
   EXPECT_FALSE(enabled(ID_OPTION_UNIT));
-  EXPECT_FALSE(enabled(ID_VIEW_TIME_FREQUENCY));
+  EXPECT_TRUE(enabled(ID_VIEW_TIME_FREQUENCY));
   int switched = 0;
   frame().commands().Register(ID_VIEW_TIME_FREQUENCY,
                               [&](CMainFrame&) { ++switched; });

@@ -48,9 +48,26 @@ void ChartWidget::SetUpAxes() {
   }
 }
 
-void ChartWidget::SetScale(QCPAxis* axis, bool log) {
+void ChartWidget::SetScale(QCPAxis* axis, bool log, double step) {
   const auto scale = log ? QCPAxis::stLogarithmic : QCPAxis::stLinear;
-  if (axis->scaleType() == scale && axis->ticker()) return;
+  const auto fixed = axis->ticker().dynamicCast<QCPAxisTickerFixed>();
+  if (!log && step > 0.0) {
+    // A document's axis step (a frequency spectrum's bin width) puts the
+    // ticks on whole multiples of it.
+    if (axis->scaleType() == scale && fixed && fixed->tickStep() == step) {
+      return;
+    }
+    axis->setScaleType(scale);
+    // Multiples of a bin width are seldom round: three digits suffice.
+    axis->setNumberPrecision(3);
+    auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
+    ticker->setTickStep(step);
+    ticker->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
+    axis->setTicker(ticker);
+    return;
+  }
+  if (axis->scaleType() == scale && axis->ticker() && !fixed) return;
+  axis->setNumberPrecision(6);
   axis->setScaleType(scale);
   if (log) {
     auto ticker = QSharedPointer<QCPAxisTickerLog>::create();
@@ -71,8 +88,8 @@ void ChartWidget::Rebuild() {
   title_->setText(lines.join(QLatin1Char('\n')));
   xAxis->setLabel(Text(doc_.chart.axis_titles[0]));
   yAxis->setLabel(Text(doc_.chart.axis_titles[1]));
-  SetScale(xAxis, doc_.log_x != 0);
-  SetScale(yAxis, doc_.log_y != 0);
+  SetScale(xAxis, doc_.log_x != 0, doc_.x_axis_step);
+  SetScale(yAxis, doc_.log_y != 0, 0.0);
 
   // The display's switches come from the document before every drawing.
   MyGraphDisplay* display = FindDisplay(MyGraphDisplay::kComponentId);

@@ -52,7 +52,8 @@ class ChartWidget : public QCustomPlot {
   };
 
   void SetUpAxes();
-  void SetScale(QCPAxis* axis, bool log);
+  // Log or linear; a positive `step` fixes a linear axis's tick step.
+  void SetScale(QCPAxis* axis, bool log, double step);
   void AddCurves();
   void AddLegend();
   void AddLabels();

@@ -9,23 +9,26 @@
 // On OK the dialog makes its document through the application:
 //   CZELwDoc* doc = frame.app().NewDocument(kNewDocumentDesignSpectrum);
 // fills it, sets its title and calls doc->UpdateAllViews().
-#include "app/shell/command_registry.h"
-
-// Design spectra by code.
 #include "app/dialogs/cdlg_ibc2000.h"
 #include "app/dialogs/dlg_atc.h"
 #include "app/dialogs/dlg_kds2019.h"
 #include "app/dialogs/dlg_ubc.h"
 #include "app/dialogs/dlg_ubc97.h"
+#include "app/dialogs/earth_dlg.h"
+#include "app/dialogs/eq_rec_dlg.h"
+#include "app/shell/child_frame.h"
+#include "app/shell/command_registry.h"
 #include "app/shell/command_table.h"
 #include "app/shell/main_frame.h"
 #include "app/shell/zelw_app.h"
+#include "core/records/frequency_switch.h"
 
 namespace zel::app {
 namespace {
 
+// Opens a Generate dialog; its OK makes and fills the new document.
 template <class Dialog>
-void RunDesignDialog(CMainFrame& frame) {
+void RunGenerateDialog(CMainFrame& frame) {
   Dialog dialog(frame.app(), &frame);
   frame.app().RunDialog(dialog);
 }
@@ -33,12 +36,22 @@ void RunDesignDialog(CMainFrame& frame) {
 }  // namespace
 
 void RegisterCommands(CommandRegistry& registry) {
+  // Records, response spectra and the Time<->Frequency switch.
+  registry.Register(ID_GENERATE_EQ_RECORD, RunGenerateDialog<EQ_REC_DLG>);
+  registry.Register(ID_GENERATE_RESPONSE_SPECTRA, RunGenerateDialog<EarthDlg>);
+  registry.Register(ID_VIEW_TIME_FREQUENCY, [](CMainFrame& frame) {
+    // Only a record document switches; any other stays as it is.
+    if (CChildFrame* child = frame.ActiveChild()) {
+      SwitchTimeFrequency(child->GetDocument(), frame.app().messages());
+    }
+  });
+
   // Design spectra by code.
-  registry.Register(ID_DESIGN_ATC, RunDesignDialog<DLG_ATC>);
-  registry.Register(ID_DESIGN_UBC, RunDesignDialog<DLG_UBC>);
-  registry.Register(ID_DESIGN_UBC97, RunDesignDialog<DLG_UBC97>);
-  registry.Register(ID_DESIGN_IBC2000, RunDesignDialog<CDLG_IBC2000>);
-  registry.Register(ID_DESIGN_KDS2019, RunDesignDialog<DLG_KDS2019>);
+  registry.Register(ID_DESIGN_ATC, RunGenerateDialog<DLG_ATC>);
+  registry.Register(ID_DESIGN_UBC, RunGenerateDialog<DLG_UBC>);
+  registry.Register(ID_DESIGN_UBC97, RunGenerateDialog<DLG_UBC97>);
+  registry.Register(ID_DESIGN_IBC2000, RunGenerateDialog<CDLG_IBC2000>);
+  registry.Register(ID_DESIGN_KDS2019, RunGenerateDialog<DLG_KDS2019>);
 }
 
 }  // namespace zel::app

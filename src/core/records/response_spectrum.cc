@@ -1,6 +1,7 @@
 #include "core/records/response_spectrum.h"
 
 #include <algorithm>
+#include <span>
 #include <vector>
 
 #include "core/records/chart_setup.h"
@@ -49,6 +50,13 @@ double SpectralValue(int kind, double peak, double omega, double gravity,
     default:  // relative velocity and displacement
       return peak;
   }
+}
+
+// Periods integrated between two progress reports: about four million
+// oscillator steps, never fewer than 64 periods.
+int PeriodsPerReport(int record_length) {
+  constexpr int kStepsPerReport = 1 << 22;
+  return std::max(64, kStepsPerReport / std::max(record_length, 1));
 }
 
 bool CheckSettings(const CZELwDoc& doc, MessageSink& messages) {
@@ -133,18 +141,28 @@ int ComputeResponseSpectrum(CZELwDoc& doc, std::FILE* file,
   }
   std::vector<OscillatorCoefficients> oscillators(count);
   std::vector<double> peaks(count);
+  const int slice = PeriodsPerReport(n);
   for (int k = 0; k < doc.curve_count; ++k) {
     for (int j = 0; j < count; ++j) {
       oscillators[j] =
           ComputeOscillatorCoefficients(omegas[j], doc.damping[k], dt);
     }
-    IntegratePeaks(forcing, oscillators, ResponseOfKind(kind), peaks);
-    for (int j = 0; j < count; ++j) {
-      doc.SetPoint(j, k, periods[j],
-                   SpectralValue(kind, peaks[j], omegas[j], doc.gravity,
-                                 doc.results_in_g == 1),
-                   0);
-      if (progress) progress(j, count);
+    // The periods are integrated a slice at a time so that progress is
+    // reported while a long record is still being worked on.
+    for (int first = 0; first < count; first += slice) {
+      const int size = std::min(slice, count - first);
+      IntegratePeaks(forcing,
+                     std::span<const OscillatorCoefficients>(oscillators)
+                         .subspan(first, size),
+                     ResponseOfKind(kind),
+                     std::span<double>(peaks).subspan(first, size));
+      for (int j = first; j < first + size; ++j) {
+        doc.SetPoint(j, k, periods[j],
+                     SpectralValue(kind, peaks[j], omegas[j], doc.gravity,
+                                   doc.results_in_g == 1),
+                     0);
+        if (progress) progress(j, count);
+      }
     }
   }
 

@@ -1,0 +1,151 @@
+#include "app/dialogs/record_dialog_common.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRegularExpressionValidator>
+
+#include "app/shell/main_frame.h"
+#include "app/shell/zelw_app.h"
+#include "core/document/c_format.h"
+#include "core/records/record_catalog.h"
+#include "core/records/record_choice.h"
+
+namespace zel::app {
+
+NumberEdit::NumberEdit(bool digits_only, QWidget* parent) : QLineEdit(parent) {
+  if (digits_only) {
+    setValidator(new QRegularExpressionValidator(
+        QRegularExpression(QStringLiteral("[0-9]*")), this));
+  }
+}
+
+void NumberEdit::SetValue(double value) {
+  value_ = value;
+  shown_ = QString::fromStdString(CFormat("%g", value));
+  setText(shown_);
+}
+
+void NumberEdit::SetText(const QString& text) {
+  shown_ = QString();
+  setText(text);
+}
+
+double NumberEdit::Value() const {
+  if (!shown_.isNull() && text() == shown_) return value_;
+  return AtoF(text().toStdString());
+}
+
+bool CheckRange(NumberEdit* edit, const ValueRange& range,
+                MessageSink& messages, double* value) {
+  double v = edit->Value();
+  if (range.integer) v = TruncateToInt(v);
+  if (value != nullptr) *value = v;
+  if (InRange(v, range)) return true;
+  messages.Show(RangeMessage(range));
+  edit->setFocus();
+  edit->selectAll();
+  return false;
+}
+
+RecordChooser::RecordChooser(Interaction& ui, QWidget* parent)
+    : QWidget(parent),
+      ui_(ui),
+      record_list_(new QComboBox),
+      caption_box_(new QPlainTextEdit),
+      amplitude_scale_(new NumberEdit),
+      time_scale_(new NumberEdit),
+      import_button_(new QPushButton(QStringLiteral("Import"))) {
+  for (const CatalogEntry& entry : RecordCatalog()) {
+    record_list_->addItem(QString::fromLatin1(entry.title));
+  }
+  record_list_->setMaxVisibleItems(20);
+  caption_box_->setReadOnly(true);
+  caption_box_->setFixedHeight(caption_box_->fontMetrics().lineSpacing() * 3 +
+                               12);
+  amplitude_scale_->SetValue(1.0);
+  time_scale_->SetValue(1.0);
+
+  auto* top = new QHBoxLayout;
+  top->addWidget(record_list_, 1);
+  top->addWidget(import_button_);
+  auto* scales = new QHBoxLayout;
+  scales->addWidget(new QLabel(QStringLiteral("Amplitude Scale")));
+  scales->addWidget(amplitude_scale_);
+  scales->addSpacing(16);
+  scales->addWidget(new QLabel(QStringLiteral("Time Scale :")));
+  scales->addWidget(time_scale_);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addLayout(top);
+  layout->addWidget(caption_box_);
+  layout->addLayout(scales);
+
+  connect(record_list_, &QComboBox::currentIndexChanged, this,
+          &RecordChooser::OnRecordChanged);
+  connect(import_button_, &QPushButton::clicked, this,
+          &RecordChooser::OnImport);
+  record_list_->setCurrentIndex(0);
+  OnRecordChanged(0);
+}
+
+void RecordChooser::OnRecordChanged(int index) {
+  if (imported_ || index < 0) return;
+  record_name_ = record_list_->itemText(index).toStdString();
+  caption_text_ = CatalogCaptionText(index);
+  ShowCaption();
+}
+
+void RecordChooser::ShowCaption() {
+  // The caption's "\r\n" is one line break; the text box would show two.
+  QString shown = QString::fromStdString(caption_text_);
+  shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  caption_box_->setPlainText(shown);
+}
+
+void RecordChooser::OnImport() {
+  const QString path =
+      ui_.open_file(this, QString::fromLatin1(kRecordFileFilter));
+  if (path.isEmpty()) return;
+  record_path_ = QFile::encodeName(path).toStdString();
+  imported_ = true;
+  // The list keeps the imported record for the rest of the dialog's life.
+  record_list_->blockSignals(true);
+  record_list_->clear();
+  record_list_->addItem(QString::fromLatin1(kImportedListText));
+  record_list_->blockSignals(false);
+  record_list_->setEnabled(false);
+  record_name_ = ImportedRecordName(path.toStdString());
+  caption_text_ = record_name_;
+  ShowCaption();
+}
+
+std::string RecordChooser::ResolveRecordPath(
+    MessageSink& messages, const std::string& program_folder) {
+  if (!imported_) {
+    record_path_ = FindCatalogFile(record_list_->currentText().toStdString(),
+                                   messages, program_folder);
+  }
+  return record_path_;
+}
+
+std::FILE* OpenRecordFile(const std::string& path, MessageSink& messages) {
+  // A folder opens for reading here but holds no record.
+  std::FILE* file = QFileInfo(QFile::decodeName(path.c_str())).isDir()
+                        ? nullptr
+                        : std::fopen(path.c_str(), "r");
+  if (file == nullptr) messages.Show("ERROR! File Not Found!");
+  return file;
+}
+
+CZELwDoc* NewRecordDocument(CZELwApp& app, int mode) {
+  app.NewDocument(mode);
+  CZELwDoc* doc =
+      app.GetMainFrame() ? app.GetMainFrame()->ActiveDocument() : nullptr;
+  if (doc == nullptr) app.messages().Show("Document Identification failed!");
+  return doc;
+}
+
+}  // namespace zel::app

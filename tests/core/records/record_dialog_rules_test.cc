@@ -1,0 +1,99 @@
+// The rules behind the record and response-spectrum dialogs: range checks
+// and their messages, the chosen record's texts, the spectrum choices.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "core/records/range_check.h"
+#include "core/records/record_catalog.h"
+#include "core/records/record_choice.h"
+#include "core/records/spectrum_choices.h"
+
+namespace zel {
+namespace {
+
+using ::testing::ElementsAre;
+
+TEST(RecordDialogRulesTest, RangesAndTheirMessages) {
+  const ValueRange damping{0.0, 1.0};
+  EXPECT_TRUE(InRange(0.0, damping) && InRange(1.0, damping));
+  EXPECT_FALSE(InRange(-1e-12, damping) || InRange(1.0000001, damping));
+  EXPECT_FALSE(InRange(std::nan(""), damping));
+  EXPECT_FALSE(InRange(INFINITY, kRecordAmplitudeRange));
+
+  EXPECT_EQ(RangeMessage({0.0, 100.0}),
+            "Please enter a number between 0 and 100.");
+  EXPECT_EQ(RangeMessage(kRecordAmplitudeRange),
+            "Please enter a number between 0 and 100000.");
+  EXPECT_EQ(RangeMessage({1.0, 5000.0, true}),
+            "Please enter an integer between 1 and 5000.");
+  EXPECT_EQ(RangeMessage({-0.5, 2.25}),
+            "Please enter a number between -0.5 and 2.25.");
+}
+
+TEST(RecordDialogRulesTest, ChosenRecordTexts) {
+  EXPECT_EQ(CatalogCaptionText(0),
+            "1940, El Centro Site, 270 Deg\r\n"
+            "Peak = 0.3569 g  Duration = 53.72 sec");
+  EXPECT_EQ(CatalogCaptionText(-1), "");
+  EXPECT_EQ(CatalogCaptionText(kCatalogSize), "");
+
+  EXPECT_EQ(ImportedRecordName("/home/eng/quakes/kobe_ns.dbs"),
+            "User EQ : kobe_ns.dbs");
+  EXPECT_EQ(ImportedRecordName("C:\\quakes\\kobe.dbs"), "User EQ : kobe.dbs");
+  EXPECT_EQ(ImportedRecordName("bare.dbs"), "User EQ : bare.dbs");
+  EXPECT_STREQ(kRecordFileFilter, "ZEL dbase file *.dbs|*.dbs||");
+}
+
+TEST(RecordDialogRulesTest, SpectrumChoices) {
+  const auto names = SpectrumTypeNames();
+  EXPECT_THAT(
+      std::vector<std::string>(names.begin(), names.end()),
+      ElementsAre("Pseudo Acceleration", "Pseudo Velocity",
+                  "Absolute Acceleration", "Relative Velocity",
+                  "Relative Displacement", "Combined D-V-A (Tripartite)"));
+  const SpectrumSettings d = DefaultSpectrumChoices();
+  EXPECT_EQ(d.amplitude_scale * d.time_scale, 1.0);
+  EXPECT_EQ(d.period_from, 0.009999999776482582);
+  EXPECT_EQ(d.period_to, 10.0);
+  EXPECT_EQ(d.period_count, 200);
+  EXPECT_EQ(d.kind, kPseudoAcceleration);
+  EXPECT_FALSE(d.log_axis);
+  EXPECT_EQ(d.damping_count, 1);
+  EXPECT_THAT(d.damping, ElementsAre(0.0, 0.009999999776482582,
+                                     0.019999999552965164, 0.05000000074505806,
+                                     0.10000000149011612, 0.20000000298023224));
+
+  const PeriodAxisPreset psv = PeriodPresetForKind(kPseudoVelocity);
+  EXPECT_STREQ(psv.from, "0.0");
+  EXPECT_STREQ(psv.to, "3.0");
+  EXPECT_FALSE(psv.log);
+  const PeriodAxisPreset dva = PeriodPresetForKind(kCombinedDVA);
+  EXPECT_STREQ(dva.from, "0.01");
+  EXPECT_STREQ(dva.to, "50");
+  EXPECT_TRUE(dva.log);
+  EXPECT_EQ(PeriodToForLogAxis(true), 10.0);
+  EXPECT_EQ(PeriodToForLogAxis(false), 3.0);
+
+  // Checked in this order; the second damping edit before the first.
+  std::vector<SpectrumField> order;
+  for (const FieldCheck& c : SpectrumFieldChecks()) {
+    order.push_back(c.field);
+    const bool is_count = c.field == SpectrumField::kPeriodCount;
+    EXPECT_EQ(c.range.integer, is_count);
+    EXPECT_EQ(c.range.min, is_count ? 1.0 : 0.0);
+    const bool is_damping = c.field >= SpectrumField::kDamping1;
+    EXPECT_EQ(c.range.max, is_count ? 5000.0 : is_damping ? 1.0 : 100.0);
+  }
+  using F = SpectrumField;
+  EXPECT_THAT(
+      order, ElementsAre(F::kAmplitudeScale, F::kPeriodFrom, F::kPeriodCount,
+                         F::kPeriodTo, F::kDamping2, F::kDamping1, F::kDamping3,
+                         F::kDamping4, F::kDamping5, F::kDamping6));
+}
+
+}  // namespace
+}  // namespace zel
