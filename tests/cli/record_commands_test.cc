@@ -8,22 +8,21 @@
 #include <vector>
 
 #include "cli/cli_runner.h"
-#include "core/document/c_format.h"
 #include "core/document/data_file.h"
-#include "core/document/test_files.h"
 #include "core/records/chart_setup.h"
 #include "core/records/frequency_switch.h"
-#include "core/records/record_curve.h"
-#include "core/records/response_spectrum.h"
+#include "core/records/record_fixtures.h"
 
 namespace zel {
 namespace {
 
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
-using zel::testing::OpenBytes;
 using zel::testing::ReadAll;
 using zel::testing::RunCli;
+using zel::testing::Settings;
+using zel::testing::ShowRecord;
+using zel::testing::SpectrumOf;
 using zel::testing::TempDir;
 using zel::testing::WriteAll;
 
@@ -33,13 +32,9 @@ std::string Quoted(const std::filesystem::path& path) {
 
 // A small record: a decaying 3 Hz sine sampled at 0.01 s.
 std::string SmallRecord(int n = 600) {
-  std::string text = "** test record\n";
-  for (int i = 0; i < n; ++i) {
-    const double t = i * 0.01;
-    text += CFormat("%.2f, %.6f\n", t,
-                    0.4 * std::sin(2 * M_PI * 3 * t) * std::exp(-0.3 * t));
-  }
-  return text;
+  return "** test record\n" +
+         zel::testing::EvenRecord(zel::testing::Sine(n, 3, 0.01, 0.4, 0.3),
+                                  0.01);
 }
 
 // What the GUI saves for the same inputs: the same document operations and
@@ -71,9 +66,7 @@ TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
   ASSERT_EQ(r.status, 0) << r.out;
 
   CZELwDoc doc;
-  PrepareRecordDocument(doc, 0.5, 2.0, "User EQ : quake.dbs");
-  MessageLog log;
-  ASSERT_EQ(ShowRecordCurve(doc, OpenBytes(record), log), 1);
+  ASSERT_EQ(ShowRecord(doc, record, 0.5, 2.0, "User EQ : quake.dbs").result, 1);
   EXPECT_EQ(r.out, ContextLabel(doc) + "\n");
   EXPECT_THAT(r.out, StartsWith("Max =   0.1"));
   EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
@@ -123,19 +116,9 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
                   Quoted(dir / "out.zel"));
   ASSERT_EQ(r.status, 0) << r.out;
 
-  SpectrumSettings settings;
-  settings.kind = kCombinedDVA;
-  settings.damping[0] = 0.02;
-  settings.damping[1] = 0.05;
-  settings.damping_count = 2;
-  settings.period_from = 0.0;
-  settings.period_to = 5.0;
-  settings.period_count = 50;
-  settings.record_name = "User EQ : quake.dbs";
-  CZELwDoc doc;
-  PrepareSpectrumDocument(doc, settings);
-  MessageLog log;
-  ASSERT_EQ(ComputeResponseSpectrum(doc, OpenBytes(record), log), 1);
+  const CZELwDoc doc = SpectrumOf(
+      record,
+      Settings(kCombinedDVA, {0.02, 0.05}, 0, 5, 50, "User EQ : quake.dbs"));
   const std::string expected = SavedBytes(doc, dir);
   EXPECT_EQ(ReadAll(dir / "out.zel"), expected);
   EXPECT_THAT(expected, HasSubstr("*FLAGS, 1, 1\n*DATA\n*DAMPING, 0.02\n"
@@ -182,9 +165,8 @@ TEST(RecordCommandsTest, FftWritesTheFrequencySpectrum) {
                         Quoted(dir / "out.zel"));
   ASSERT_EQ(r.status, 0) << r.out;
   CZELwDoc doc;
-  PrepareRecordDocument(doc, 1.0, 1.0, "User EQ : quake.dbs");
+  ASSERT_EQ(ShowRecord(doc, record, 1.0, 1.0, "User EQ : quake.dbs").result, 1);
   MessageLog log;
-  ASSERT_EQ(ShowRecordCurve(doc, OpenBytes(record), log), 1);
   ASSERT_TRUE(SwitchTimeFrequency(doc, log));
   EXPECT_EQ(r.out, "Maximum at 2.93 Hz\n");
   EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
