@@ -7,7 +7,7 @@
 namespace zel {
 namespace {
 
-TEST(Kds2019Test, SiteCoefficientLookups) {
+TEST(Kds2019Test, SiteCoefficientLookupsAndTheDefaults) {
   double fa = 0.0;
   double fv = 0.0;
   ASSERT_TRUE(Kds2019Fa(2, 0.05, fa) && Kds2019Fv(2, 0.05, fv));  // S3

@@ -228,6 +228,10 @@ TEST(ResponseSpectrumTest, GrowthAtLongPeriodsAndBadSettingsNeverBreak) {
   EXPECT_LT(Ordinate(doc, 1, 1), Ordinate(doc, 0, 1));  // 4 s: damped less
   EXPECT_GT(Ordinate(doc, 1, 4), 1e3 * Ordinate(doc, 0, 4));  // 10 s: grown
   EXPECT_GT(Ordinate(doc, 1, 8), 1e6 * Ordinate(doc, 0, 8));  // 18 s
+  // Over a record of the full 50000 samples it passes 1e30 mm.
+  const CZELwDoc huge = SpectrumOf(EvenRecord(Quake(50000), 0.005),
+                                   Settings(4, {0.2}, 20.0, 40.0, 1));
+  EXPECT_GT(Ordinate(huge, 0, 0), 1e30);
   // Infinite and NaN ordinates write and read back.
   doc.SetPoint(1, 0, 1.0, INFINITY, 0);
   doc.SetPoint(2, 0, 2.0, NAN, 1);
