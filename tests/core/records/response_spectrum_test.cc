@@ -263,34 +263,24 @@ TEST(ResponseSpectrumTest, GrowthAtLongPeriodsAndBadSettingsNeverBreak) {
   EXPECT_EQ(Ordinate(same, 0, 3), Ordinate(same, 0, 0));
 
   // Settings the dialog never passes are refused with a message; a read
-  // failure gives the reader's message, then the spectrum's, and no points.
-  const struct {
-    SpectrumSettings settings;
-    const char* record;
+  // failure gives the reader's message, then the spectrum's. No points.
+  const auto refused = [](const std::string& record, SpectrumSettings s) {
     std::vector<std::string> messages;
-  } refused[] = {
-      {Settings(0, {0.05}, 0.1, 1.0, 0),
-       "",
-       {"Error : The number of periods must be 1 to 5000!"}},
-      {Settings(0, {0.05}, 0.1, 1.0, 5001),
-       "",
-       {"Error : The number of periods must be 1 to 5000!"}},
-      {Settings(7, {0.05}, 0.1, 1.0, 3),
-       "",
-       {"Error : Unknown spectrum kind!"}},
-      {Settings(0, {}, 0.1, 1.0, 3),
-       "",
-       {"Error : The number of damping ratios must be 1 to 6!"}},
-      {Settings(0, {0.05}, 0.1, 1.0, 3),
-       "garbage\n",
-       {"Error : Wrong Format!", "an Error occurred while reading data!"}}};
-  for (const auto& r : refused) {
-    std::vector<std::string> messages;
-    const CZELwDoc failed =
-        SpectrumOf(r.record[0] ? r.record : text, r.settings, &messages);
-    EXPECT_EQ(messages, r.messages);
-    EXPECT_EQ(failed.StoredPoints(0), 0u);
-  }
+    EXPECT_EQ(SpectrumOf(record, s, &messages).StoredPoints(0), 0u);
+    return messages;
+  };
+  EXPECT_THAT(refused(text, Settings(0, {0.05}, 0.1, 1.0, 0)),
+              ElementsAre("Error : The number of periods must be 1 to 5000!"));
+  EXPECT_THAT(refused(text, Settings(0, {0.05}, 0.1, 1.0, 5001)),
+              ElementsAre("Error : The number of periods must be 1 to 5000!"));
+  EXPECT_THAT(refused(text, Settings(7, {0.05}, 0.1, 1.0, 3)),
+              ElementsAre("Error : Unknown spectrum kind!"));
+  EXPECT_THAT(
+      refused(text, Settings(0, {}, 0.1, 1.0, 3)),
+      ElementsAre("Error : The number of damping ratios must be 1 to 6!"));
+  EXPECT_THAT(refused("garbage\n", Settings(0, {0.05}, 0.1, 1.0, 3)),
+              ElementsAre("Error : Wrong Format!",
+                          "an Error occurred while reading data!"));
 }
 
 TEST(ResponseSpectrumTest, ProgressRunsThroughThePeriodsOfEachCurve) {
