@@ -21,12 +21,16 @@ using zel::testing::ReadAll;
 using zel::testing::RunCli;
 using zel::testing::TempDir;
 
-// The .zel bytes the dialog would save after filling `doc`.
-std::string Saved(const CZELwDoc& doc, const TempDir& dir) {
+// The .zel bytes the dialog would save after `generate` fills a document.
+template <typename Params>
+std::string Saved(bool (*generate)(CZELwDoc&, const Params&, MessageSink&),
+                  const Params& params, const TempDir& dir) {
+  CZELwDoc doc;
   MessageLog log;
-  const auto path = dir / "direct.zel";
-  EXPECT_TRUE(WriteDataFile(doc, path.string(), log));
-  return ReadAll(path);
+  EXPECT_TRUE(generate(doc, params, log));
+  EXPECT_TRUE(log.texts().empty());
+  EXPECT_TRUE(WriteDataFile(doc, (dir / "direct.zel").string(), log));
+  return ReadAll(dir / "direct.zel");
 }
 
 std::string RunDesign(const std::string& arguments, const TempDir& dir) {
@@ -39,80 +43,38 @@ std::string RunDesign(const std::string& arguments, const TempDir& dir) {
 
 TEST(DesignCommandTest, SameBytesAsTheCoreGenerators) {
   TempDir dir;
-  MessageLog log;
-  {
-    Ubc97Params p;
-    p.ca = 0.4;
-    p.cv = 0.56;
-    CZELwDoc doc;
-    ASSERT_TRUE(GenerateUbc97(doc, p, log));
-    const std::string direct = Saved(doc, dir);
-    EXPECT_THAT(direct, HasSubstr("*TITLE, Ca=0.4  Cv=0.56\n"));
-    EXPECT_EQ(RunDesign("ubc97 --ca 0.4 --cv 0.56", dir), direct);
-    EXPECT_EQ(RunDesign("UBC97 --option user --cv 0.56 --ca 0.40", dir),
-              direct);
-    // Zone 4, Sc, type C: the automatic option gives the same Ca and Cv.
-    EXPECT_EQ(RunDesign("ubc97 --soil sc --source C", dir), direct);
-  }
-  {
-    Ubc88Params p;
-    p.soil = 1;
-    p.z = 0.4;
-    p.grid = {0.5, 3.0, 50};
-    CZELwDoc doc;
-    ASSERT_TRUE(GenerateUbc88(doc, p, log));
-    EXPECT_EQ(RunDesign("ubc88-94 --soil S2 --z 0.4 --from 0.5 --to 3 "
-                        "--steps 50",
-                        dir),
-              Saved(doc, dir));
-  }
-  {
-    Atc306Params p;
-    p.soil = 2;
-    p.aa = 0.3;
-    p.av = 0.2;
-    p.r = 4.5;
-    CZELwDoc doc;
-    ASSERT_TRUE(GenerateAtc306(doc, p, log));
-    EXPECT_EQ(RunDesign("atc3-06 --soil s3 --aa 0.3 --av 0.2 --r 4.5", dir),
-              Saved(doc, dir));
-  }
-  {
-    Ibc2000Params p;
-    p.site = 3;
-    p.ss = 0.6;
-    p.importance = 1.25;
-    CZELwDoc doc;
-    ASSERT_TRUE(GenerateIbc2000(doc, p, log));
-    EXPECT_EQ(RunDesign("ibc2000 --site D --ss 0.6 --importance 1.25", dir),
-              Saved(doc, dir));
-  }
-  {
-    CZELwDoc doc;
-    ASSERT_TRUE(GenerateKds2019(doc, Kds2019Params{}, log));
-    const std::string direct = Saved(doc, dir);
-    EXPECT_EQ(RunDesign("kds2019", dir), direct);
-    // 103 points, all saved by the array hand-off.
-    EXPECT_EQ(std::count(direct.begin(), direct.end(), '\n'), 7 + 1 + 103);
-    // Zone 1 rewrites EPA to 0.22 and refreshes: the defaults again.
-    EXPECT_EQ(RunDesign("kds2019 --zone 1", dir), direct);
-  }
-  {
-    // S6 by hand: the typed values go straight into the record.
-    Kds2019Params p;
-    p.site = 5;
-    p.fa = 1.5;
-    p.fv = 2.0;
-    p.sds = 0.5;
-    p.sd1 = 0.3;
-    CZELwDoc doc;
-    ASSERT_TRUE(GenerateKds2019(doc, p, log));
-    EXPECT_EQ(RunDesign("kds2019 --site S6 --fa 1.5 --fv 2 --sds 0.5 "
-                        "--sd1 0.3",
-                        dir),
-              Saved(doc, dir));
-  }
-  EXPECT_TRUE(log.texts().empty());
+  const std::string ubc97 =
+      Saved(GenerateUbc97, {.ca = 0.4, .cv = 0.56, .grid = {}}, dir);
+  EXPECT_THAT(ubc97, HasSubstr("*TITLE, Ca=0.4  Cv=0.56\n"));
+  EXPECT_EQ(RunDesign("ubc97 --ca 0.4 --cv 0.56", dir), ubc97);
+  EXPECT_EQ(RunDesign("UBC97 --option user --cv 0.56 --ca 0.40", dir), ubc97);
+  // Zone 4, Sc, type C: the automatic option gives the same Ca and Cv.
+  EXPECT_EQ(RunDesign("ubc97 --soil sc --source C", dir), ubc97);
+
+  EXPECT_EQ(
+      RunDesign("ubc88-94 --soil S2 --z 0.4 --from 0.5 --to 3 --steps 50", dir),
+      Saved(GenerateUbc88, {.soil = 1, .z = 0.4, .grid = {0.5, 3.0, 50}}, dir));
+  EXPECT_EQ(
+      RunDesign("atc3-06 --soil s3 --aa 0.3 --av 0.2 --r 4.5", dir),
+      Saved(GenerateAtc306,
+            {.soil = 2, .aa = 0.3, .av = 0.2, .r = 4.5, .grid = {}}, dir));
+  EXPECT_EQ(RunDesign("ibc2000 --site D --ss 0.6 --importance 1.25", dir),
+            Saved(GenerateIbc2000,
+                  {.ss = 0.6, .importance = 1.25, .site = 3, .grid = {}}, dir));
+
+  const std::string kds = Saved(GenerateKds2019, Kds2019Params{}, dir);
+  EXPECT_EQ(RunDesign("kds2019", dir), kds);
+  // 103 points, all saved by the array hand-off.
+  EXPECT_EQ(std::count(kds.begin(), kds.end(), '\n'), 7 + 1 + 103);
+  // Zone 1 rewrites EPA to 0.22 and refreshes: the defaults again.
+  EXPECT_EQ(RunDesign("kds2019 --zone 1", dir), kds);
+  // S6 by hand: the typed values go straight into the record.
+  EXPECT_EQ(
+      RunDesign("kds2019 --site S6 --fa 1.5 --fv 2 --sds 0.5 --sd1 0.3", dir),
+      Saved(
+          GenerateKds2019,
+          {.site = 5, .fa = 1.5, .fv = 2.0, .sds = 0.5, .sd1 = 0.3, .grid = {}},
+          dir));
 }
 
 TEST(DesignCommandTest, ListsCodesAndWritesCsv) {

@@ -8,22 +8,23 @@
 #include <vector>
 
 #include "cli/cli_runner.h"
-#include "core/document/c_format.h"
 #include "core/document/data_file.h"
-#include "core/document/test_files.h"
 #include "core/records/chart_setup.h"
 #include "core/records/frequency_switch.h"
-#include "core/records/record_curve.h"
-#include "core/records/response_spectrum.h"
+#include "core/records/record_fixtures.h"
 
 namespace zel {
 namespace {
 
+using ::testing::_;
+using ::testing::Eq;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
-using zel::testing::OpenBytes;
 using zel::testing::ReadAll;
 using zel::testing::RunCli;
+using zel::testing::Settings;
+using zel::testing::ShowRecord;
+using zel::testing::SpectrumOf;
 using zel::testing::TempDir;
 using zel::testing::WriteAll;
 
@@ -31,15 +32,17 @@ std::string Quoted(const std::filesystem::path& path) {
   return "'" + path.string() + "'";
 }
 
+// Runs zel-cli with `arguments`, writing `output` in `dir`.
+zel::testing::CliResult RunTo(const TempDir& dir, const std::string& arguments,
+                              const std::string& output) {
+  return RunCli(arguments + " -o " + Quoted(dir / output));
+}
+
 // A small record: a decaying 3 Hz sine sampled at 0.01 s.
 std::string SmallRecord(int n = 600) {
-  std::string text = "** test record\n";
-  for (int i = 0; i < n; ++i) {
-    const double t = i * 0.01;
-    text += CFormat("%.2f, %.6f\n", t,
-                    0.4 * std::sin(2 * M_PI * 3 * t) * std::exp(-0.3 * t));
-  }
-  return text;
+  return "** test record\n" +
+         zel::testing::EvenRecord(zel::testing::Sine(n, 3, 0.01, 0.4, 0.3),
+                                  0.01);
 }
 
 // What the GUI saves for the same inputs: the same document operations and
@@ -65,51 +68,48 @@ TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
   TempDir dir;
   const std::string record = SmallRecord();
   WriteAll(dir / "quake.dbs", record);
-  auto r =
-      RunCli("record " + Quoted(dir / "quake.dbs") +
-             " --amp-scale 0.5 --time-scale 2 -o " + Quoted(dir / "out.zel"));
+  const std::string quake = Quoted(dir / "quake.dbs");
+  auto r = RunTo(dir, "record " + quake + " --amp-scale 0.5 --time-scale 2",
+                 "out.zel");
   ASSERT_EQ(r.status, 0) << r.out;
-
   CZELwDoc doc;
-  PrepareRecordDocument(doc, 0.5, 2.0, "User EQ : quake.dbs");
-  MessageLog log;
-  ASSERT_EQ(ShowRecordCurve(doc, OpenBytes(record), log), 1);
+  ASSERT_EQ(ShowRecord(doc, record, 0.5, 2.0, "User EQ : quake.dbs").result, 1);
   EXPECT_EQ(r.out, ContextLabel(doc) + "\n");
   EXPECT_THAT(r.out, StartsWith("Max =   0.1"));
   EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
 
   // A catalog entry by number or title, from the dbase/ folder of --base.
+  const std::string base = " --base " + Quoted(dir.path());
   std::filesystem::create_directory(dir / "dbase");
   WriteAll(dir / "dbase" / "Taft_h.dbs", record);
-  r = RunCli("record 4 --base " + Quoted(dir.path()) + " -o " +
-             Quoted(dir / "taft.csv"));
+  r = RunTo(dir, "record 4" + base, "taft.csv");
   ASSERT_EQ(r.status, 0) << r.out;
   EXPECT_THAT(ReadAll(dir / "taft.csv"),
               StartsWith("\"Time (sec)\",\"Earthquake Record: Ground Accel. "
                          "(g)\"\n0,0\n0.01,0.0"));
-  r = RunCli("record '1952, Taft Lincoln School, 69 Deg' --base " +
-             Quoted(dir.path()) + " -o " + Quoted(dir / "taft.zel"));
+  r = RunTo(dir, "record '1952, Taft Lincoln School, 69 Deg'" + base,
+            "taft.zel");
   ASSERT_EQ(r.status, 0) << r.out;
   EXPECT_THAT(ReadAll(dir / "taft.zel"),
               HasSubstr("*TITLE, 1952, Taft Lincoln School, 69 Deg\n"));
 
   // Missing files and bad records end with the system's messages.
-  r = RunCli("record 5 --base " + Quoted(dir.path()) + " -o " +
-             Quoted(dir / "x.zel"));
-  EXPECT_EQ(r.status, 1);
-  EXPECT_EQ(r.out, "ERROR! File Not Found!\n");
-  r = RunCli("record 54 -o " + Quoted(dir / "x.zel"));
-  EXPECT_EQ(r.status, 1);
   WriteAll(dir / "empty.dbs", "");
-  r = RunCli("record " + Quoted(dir / "empty.dbs") + " -o " +
-             Quoted(dir / "x.zel"));
-  EXPECT_EQ(r.status, 1);
-  EXPECT_EQ(r.out,
-            "Error : No Data Found!\nan Error occurred while reading data!\n");
-  r = RunCli("record " + Quoted(dir / "quake.dbs") + " --amp-scale 1,5 -o " +
-             Quoted(dir / "x.zel"));
-  EXPECT_EQ(r.status, 1);
-  EXPECT_THAT(r.out, HasSubstr("--amp-scale: not a number: 1,5"));
+  const struct {
+    std::string arguments;
+    ::testing::Matcher<std::string> out;
+  } failures[] = {
+      {"record 5" + base, Eq("ERROR! File Not Found!\n")},
+      {"record 54", _},
+      {"record " + Quoted(dir / "empty.dbs"),
+       Eq("Error : No Data Found!\nan Error occurred while reading data!\n")},
+      {"record " + quake + " --amp-scale 1,5",
+       HasSubstr("--amp-scale: not a number: 1,5")}};
+  for (const auto& f : failures) {
+    r = RunTo(dir, f.arguments, "x.zel");
+    EXPECT_EQ(r.status, 1) << f.arguments;
+    EXPECT_THAT(r.out, f.out) << f.arguments;
+  }
   EXPECT_FALSE(std::filesystem::exists(dir / "x.zel"));
 }
 
@@ -117,34 +117,24 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
   TempDir dir;
   const std::string record = SmallRecord();
   WriteAll(dir / "quake.dbs", record);
-  auto r = RunCli("spectrum " + Quoted(dir / "quake.dbs") +
-                  " --damping 0.02,0.05 --kind dva --from 0 --to 5"
-                  " --steps 50 -o " +
-                  Quoted(dir / "out.zel"));
+  const std::string spectrum = "spectrum " + Quoted(dir / "quake.dbs");
+  auto r = RunTo(dir,
+                 spectrum +
+                     " --damping 0.02,0.05 --kind dva --from 0 --to 5"
+                     " --steps 50",
+                 "out.zel");
   ASSERT_EQ(r.status, 0) << r.out;
-
-  SpectrumSettings settings;
-  settings.kind = kCombinedDVA;
-  settings.damping[0] = 0.02;
-  settings.damping[1] = 0.05;
-  settings.damping_count = 2;
-  settings.period_from = 0.0;
-  settings.period_to = 5.0;
-  settings.period_count = 50;
-  settings.record_name = "User EQ : quake.dbs";
-  CZELwDoc doc;
-  PrepareSpectrumDocument(doc, settings);
-  MessageLog log;
-  ASSERT_EQ(ComputeResponseSpectrum(doc, OpenBytes(record), log), 1);
-  const std::string expected = SavedBytes(doc, dir);
+  const std::string expected =
+      SavedBytes(SpectrumOf(record, Settings(kCombinedDVA, {0.02, 0.05}, 0, 5,
+                                             50, "User EQ : quake.dbs")),
+                 dir);
   EXPECT_EQ(ReadAll(dir / "out.zel"), expected);
   EXPECT_THAT(expected, HasSubstr("*FLAGS, 1, 1\n*DATA\n*DAMPING, 0.02\n"
                                   "1.00000E-002\t,"));
 
   // --log raises "from"; CSV output.
-  r = RunCli("spectrum " + Quoted(dir / "quake.dbs") +
-             " --kind sd --from 0 --to 2 --steps 20 --log -o " +
-             Quoted(dir / "k.csv"));
+  r = RunTo(dir, spectrum + " --kind sd --from 0 --to 2 --steps 20 --log",
+            "k.csv");
   EXPECT_EQ(r.status, 0) << r.out;
   EXPECT_THAT(ReadAll(dir / "k.csv"), HasSubstr("\n0.009999999776482582,"));
 
@@ -153,53 +143,46 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
        {"--steps 0", "--steps 5001", "--steps 2.5", "--kind xyz",
         "--damping 1.5", "--damping 0,0,0,0,0,0,0", "--from -1", "--to 101",
         "--damping abc", "--amp-scale 101"}) {
-    r = RunCli("spectrum " + Quoted(dir / "quake.dbs") + " " + bad + " -o " +
-               Quoted(dir / "bad.zel"));
+    r = RunTo(dir, spectrum + " " + bad, "bad.zel");
     EXPECT_EQ(r.status, 1) << bad;
     EXPECT_FALSE(r.out.empty()) << bad;
   }
-  EXPECT_FALSE(std::filesystem::exists(dir / "bad.zel"));
-
-  // A time scale of 0 and from = to are defined results, not failures.
-  r = RunCli("spectrum " + Quoted(dir / "quake.dbs") +
-             " --time-scale 0 --from 1 --to 1 --steps 3 -o " +
-             Quoted(dir / "zero.zel"));
-  EXPECT_EQ(r.status, 0) << r.out;
   // A file that is not a record.
   WriteAll(dir / "text.dbs", "no commas here\nat all\n");
-  r = RunCli("spectrum " + Quoted(dir / "text.dbs") + " -o " +
-             Quoted(dir / "bad.zel"));
+  r = RunTo(dir, "spectrum " + Quoted(dir / "text.dbs"), "bad.zel");
   EXPECT_EQ(r.status, 1);
   EXPECT_EQ(r.out,
             "Error : Wrong Format!\nan Error occurred while reading data!\n");
+  EXPECT_FALSE(std::filesystem::exists(dir / "bad.zel"));
+
+  // A time scale of 0 and from = to are defined results, not failures.
+  r = RunTo(dir, spectrum + " --time-scale 0 --from 1 --to 1 --steps 3",
+            "zero.zel");
+  EXPECT_EQ(r.status, 0) << r.out;
 }
 
 TEST(RecordCommandsTest, FftWritesTheFrequencySpectrum) {
   TempDir dir;
   const std::string record = SmallRecord(1000);
   WriteAll(dir / "quake.dbs", record);
-  const auto r = RunCli("fft " + Quoted(dir / "quake.dbs") + " -o " +
-                        Quoted(dir / "out.zel"));
+  const auto r = RunTo(dir, "fft " + Quoted(dir / "quake.dbs"), "out.zel");
   ASSERT_EQ(r.status, 0) << r.out;
   CZELwDoc doc;
-  PrepareRecordDocument(doc, 1.0, 1.0, "User EQ : quake.dbs");
+  ASSERT_EQ(ShowRecord(doc, record, 1.0, 1.0, "User EQ : quake.dbs").result, 1);
   MessageLog log;
-  ASSERT_EQ(ShowRecordCurve(doc, OpenBytes(record), log), 1);
   ASSERT_TRUE(SwitchTimeFrequency(doc, log));
   EXPECT_EQ(r.out, "Maximum at 2.93 Hz\n");
   EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
 
   // A silent record has a spectrum of 0 / 0: NaN ordinates are written.
   WriteAll(dir / "silent.dbs", "0, 0\n0.01, 0\n0.02, 0\n0.03, 0\n");
-  const auto silent = RunCli("fft " + Quoted(dir / "silent.dbs") + " -o " +
-                             Quoted(dir / "silent.csv"));
+  const auto silent = RunTo(dir, "fft " + Quoted(dir / "silent.dbs"), "s.csv");
   EXPECT_EQ(silent.status, 0) << silent.out;
-  EXPECT_THAT(ReadAll(dir / "silent.csv"), HasSubstr("\n25,-nan\n50,-nan\n"));
+  EXPECT_THAT(ReadAll(dir / "s.csv"), HasSubstr("\n25,-nan\n50,-nan\n"));
 
   // One sample: no spectrum.
   WriteAll(dir / "one.dbs", "0, 1\n");
-  const auto one = RunCli("fft " + Quoted(dir / "one.dbs") + " -o " +
-                          Quoted(dir / "one.zel"));
+  const auto one = RunTo(dir, "fft " + Quoted(dir / "one.dbs"), "one.zel");
   EXPECT_EQ(one.status, 1);
   EXPECT_FALSE(one.out.empty());
 }

@@ -86,7 +86,9 @@ TEST(CodeRegistryTest, Ubc97AutomaticOptionDrivesTheCoefficientFields) {
   v["distance"] = "-3";
   EXPECT_FALSE(NotifyChanged(code, v, "distance", log));
   EXPECT_EQ(v.at("ca"), "0.66");
-  EXPECT_EQ(log.texts(), std::vector<std::string>{kDistanceMessage});
+  EXPECT_EQ(v.at("cv"), "1.28");
+  EXPECT_EQ(log.texts(), std::vector<std::string>{
+                             "Error! Distance must not be negative value."});
 
   v["zone"] = "3";  // zone 3 never reads the distance
   ASSERT_TRUE(NotifyChanged(code, v, "zone", log));
@@ -137,6 +139,7 @@ TEST(CodeRegistryTest, Kds2019NotificationsAndValuesAsDisplayed) {
   v["site"] = "5";
   ASSERT_TRUE(NotifyChanged(code, v, "site", log));
   EXPECT_EQ(v.at("fa"), "0");
+  EXPECT_EQ(v.at("fv"), "0");
   EXPECT_EQ(v.at("sds"), "0");
   v["zone"] = "0";
   ASSERT_TRUE(NotifyChanged(code, v, "zone", log));

@@ -22,10 +22,7 @@ TEST(Ibc2000Test, SiteCoefficientsInterpolateAndHoldAtTheEnds) {
 }
 
 TEST(Ibc2000Test, SiteDSpectrum) {
-  Ibc2000Params p;
-  p.site = 3;
-  p.ss = 0.6;
-  p.s1 = 0.2;
+  Ibc2000Params p{.ss = 0.6, .s1 = 0.2, .site = 3, .grid = {}};
   // SDS = 2/3 1.32 0.6 = 0.528, SD1 = 2/3 2.0 0.2 = 0.26667,
   // Ts = 0.50505, T0 = 0.10101.
   const Ibc2000Coefficients c = ComputeIbc2000Coefficients(p);
@@ -57,10 +54,7 @@ TEST(Ibc2000Test, SiteDSpectrum) {
 
 TEST(Ibc2000Test, SiteClassENoteIsStrictAndComesFirst) {
   MessageLog log;
-  Ibc2000Params p;
-  p.site = 4;
-  p.ss = 1.0;
-  p.s1 = 0.4;
+  Ibc2000Params p{.ss = 1.0, .s1 = 0.4, .site = 4, .grid = {}};
   EXPECT_TRUE(CheckIbc2000SiteClass(p, log));
   p.ss = 1.01;
   EXPECT_FALSE(CheckIbc2000SiteClass(p, log));

@@ -45,29 +45,16 @@ TEST(Ubc97CoefficientsTest, TablesAndZone4NearSourceScaling) {
   EXPECT_FALSE(Ubc97Coefficients(4, 0, 0, std::nan(""), c));
 }
 
-TEST(Ubc97CoefficientsTest, DialogFieldsShowPercentGAndRefuseNegativeDistance) {
+TEST(Ubc97CoefficientsTest, RefreshRoundsThroughTheDisplayedText) {
   MessageLog log;
-  std::string ca = "x";
-  std::string cv = "y";
-  ASSERT_TRUE(Ubc97CoefficientTexts(4, 3, 0, 2.0, ca, cv, log));
-  EXPECT_EQ(ca, "0.66");
-  EXPECT_EQ(cv, "1.28");
-  EXPECT_FALSE(Ubc97CoefficientTexts(4, 3, 0, -0.5, ca, cv, log));
-  EXPECT_EQ(ca, "0.66");
-  EXPECT_EQ(cv, "1.28");
-  EXPECT_EQ(log.texts(), std::vector<std::string>{
-                             "Error! Distance must not be negative value."});
-
   // The record's defaults are what the dialog computes when it opens, and
   // refreshing rounds through the displayed text.
   Ubc97Params p;
-  const Ubc97Params defaults;
   ASSERT_TRUE(RefreshUbc97Coefficients(p, log));
-  EXPECT_EQ(p.ca, defaults.ca);
-  EXPECT_EQ(p.cv, defaults.cv);
-  p.soil = 4;
-  p.source = 0;
-  p.distance = 3.0;  // Na 1.4, Nv 1.866667: Cv = 0.96 Nv = 1.792
+  EXPECT_EQ(p.ca, Ubc97Params{}.ca);
+  EXPECT_EQ(p.cv, Ubc97Params{}.cv);
+  // Se, source A, 3 km: Na 1.4, Nv 1.866667: Cv = 0.96 Nv = 1.792.
+  p = {.soil = 4, .source = 0, .distance = 3.0, .grid = {}};
   ASSERT_TRUE(RefreshUbc97Coefficients(p, log));
   EXPECT_EQ(p.ca, 0.504);
   EXPECT_EQ(p.cv, 1.792);

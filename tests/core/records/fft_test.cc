@@ -50,12 +50,10 @@ TEST(FftTest, TransformsLikeADirectDftForwardAndBack) {
 }
 
 TEST(FftTest, HelpersAndFatalMisuse) {
-  EXPECT_EQ(CFFT::CheckPowerOfTwo(0), 0);
-  EXPECT_EQ(CFFT::CheckPowerOfTwo(1), 0);
-  EXPECT_EQ(CFFT::CheckPowerOfTwo(2), 1);
-  EXPECT_EQ(CFFT::CheckPowerOfTwo(1024), 1);
-  EXPECT_EQ(CFFT::CheckPowerOfTwo(1000), 0);
-  EXPECT_EQ(CFFT::CheckPowerOfTwo(0x80000000u), 1);
+  for (unsigned n : {0u, 1u, 1000u}) EXPECT_EQ(CFFT::CheckPowerOfTwo(n), 0);
+  for (unsigned n : {2u, 1024u, 0x80000000u}) {
+    EXPECT_EQ(CFFT::CheckPowerOfTwo(n), 1);
+  }
   EXPECT_EQ(CFFT::NumberOfBitsNeeded(2), 1u);
   EXPECT_EQ(CFFT::NumberOfBitsNeeded(16384), 14u);
   EXPECT_EQ(CFFT::BitReverse(1, 3), 4u);

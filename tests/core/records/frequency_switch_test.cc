@@ -7,29 +7,22 @@
 #include <string>
 #include <vector>
 
-#include "core/document/test_files.h"
 #include "core/records/chart_setup.h"
-#include "core/records/record_curve.h"
-#include "core/records/record_text.h"
-#include "core/records/response_spectrum.h"
+#include "core/records/record_fixtures.h"
 
 namespace zel {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using zel::testing::EvenRecord;
-using zel::testing::OpenBytes;
+using zel::testing::ShowRecord;
+using zel::testing::Sine;
 
 // A record document of `n` samples of a sine of `hz` at step `dt`.
 CZELwDoc SineRecord(int n, double hz, double dt, double time_scale = 1.0) {
-  std::vector<double> values(static_cast<std::size_t>(n));
-  for (int i = 0; i < n; ++i)
-    values[i] = 0.25 * std::sin(2 * M_PI * hz * i * dt);
   CZELwDoc doc;
-  PrepareRecordDocument(doc, 1.0, time_scale, "Sine");
-  MessageLog log;
-  EXPECT_EQ(ShowRecordCurve(doc, OpenBytes(EvenRecord(values, dt)), log), 1);
+  const std::string text = EvenRecord(Sine(n, hz, dt), dt);
+  EXPECT_EQ(ShowRecord(doc, text, 1.0, time_scale).result, 1);
   return doc;
 }
 
@@ -47,15 +40,11 @@ TEST(FrequencySwitchTest, SpectrumOfTheLargestPowerOfTwoPrefix) {
   EXPECT_DOUBLE_EQ(doc.store().Value(1, 0), df);
   EXPECT_DOUBLE_EQ(doc.store().Value(256, 0), 256 * df);
   // Normalised to the largest magnitude, which lies at the bin nearest 5 Hz.
-  double largest = 0;
-  std::size_t at = 0;
+  std::size_t at = 1;
   for (std::size_t k = 1; k <= 256; ++k) {
-    if (doc.store().Value(k, 1) > largest) {
-      largest = doc.store().Value(k, 1);
-      at = k;
-    }
+    if (doc.store().Value(k, 1) > doc.store().Value(at, 1)) at = k;
   }
-  EXPECT_EQ(largest, 1.0);
+  EXPECT_EQ(doc.store().Value(at, 1), 1.0);
   EXPECT_EQ(at, 26u);  // 5 Hz / df = 25.6
   EXPECT_EQ(ContextLabel(doc), "Maximum at 5.08 Hz");
   EXPECT_EQ(doc.title, "Frequency Spectrum");

@@ -7,11 +7,9 @@
 #include <filesystem>
 #include <string>
 
-#include "core/document/test_files.h"
 #include "core/records/chart_setup.h"
 #include "core/records/record_catalog.h"
-#include "core/records/record_curve.h"
-#include "core/records/record_text.h"
+#include "core/records/record_fixtures.h"
 
 namespace zel {
 namespace {
@@ -19,18 +17,9 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using zel::testing::EvenRecord;
-using zel::testing::OpenBytes;
-
-struct Read {
-  int result;
-  std::vector<std::string> messages;
-};
-
-Read ReadRecord(CZELwDoc& doc, const std::string& bytes) {
-  MessageLog log;
-  const int result = ReadRecordFile(doc, OpenBytes(bytes), log);
-  return {result, log.texts()};
-}
+using zel::testing::Read;
+using zel::testing::ReadRecord;
+using zel::testing::ShowRecord;
 
 TEST(RecordCatalogTest, FiftyThreeEntriesFoundBesideTheProgram) {
   const auto catalog = RecordCatalog();
@@ -103,20 +92,27 @@ TEST(RecordReaderTest, BadFilesGiveTheirMessagesAndKeepThePreviousRecord) {
   doc.results_in_g = 1;
   ASSERT_EQ(ReadRecord(doc, "0,1\n1,2\n").result, 1);
 
-  EXPECT_THAT(ReadRecord(doc, "").messages,
-              ElementsAre("Error : No Data Found!"));
-  EXPECT_THAT(ReadRecord(doc, "** only a comment\n").messages,
-              ElementsAre("Error : No Data Found!"));
-  EXPECT_THAT(ReadRecord(doc, "0 1\n1 2\n").messages,
-              ElementsAre("Error : Wrong Format!"));
-  EXPECT_THAT(ReadRecord(doc, "0,1\n1;2\n2,3\n").messages,
-              ElementsAre("Error : Wrong Format!"));
-  EXPECT_THAT(ReadRecord(doc, "0,1\n5\n").messages,
-              ElementsAre("Error : Wrong Format!"));
   std::string binary;
   for (int i = 0; i < 4096; ++i) binary.push_back(static_cast<char>(i * 37));
-  EXPECT_EQ(ReadRecord(doc, binary).result, 0);
-  // Failed reads leave the record that was there.
+  const struct {
+    std::string bytes;
+    const char* message;
+  } bad[] = {{"", "Error : No Data Found!"},
+             {"** only a comment\n", "Error : No Data Found!"},
+             {"0 1\n1 2\n", "Error : Wrong Format!"},
+             {"0,1\n1;2\n2,3\n", "Error : Wrong Format!"},
+             {"0,1\n5\n", "Error : Wrong Format!"},
+             {binary, nullptr}};
+  for (const auto& b : bad) {
+    const Read read = ReadRecord(doc, b.bytes);
+    EXPECT_EQ(read.result, 0);
+    if (b.message != nullptr) {
+      EXPECT_THAT(read.messages, ElementsAre(b.message));
+    }
+  }
+  // Failed reads leave the record that was there; a null stream fails too.
+  MessageLog log;
+  EXPECT_EQ(ReadRecordFile(doc, nullptr, log), 0);
   EXPECT_EQ(doc.record_sample_count, 2);
   EXPECT_EQ(doc.record_samples[1].value, 2.0);
 
@@ -125,10 +121,6 @@ TEST(RecordReaderTest, BadFilesGiveTheirMessagesAndKeepThePreviousRecord) {
   EXPECT_TRUE(std::isnan(doc.record_samples[0].value));
   EXPECT_TRUE(std::isinf(doc.record_samples[1].value));
   EXPECT_TRUE(std::isinf(doc.record_samples[2].value));
-
-  // A null stream fails like an empty one.
-  MessageLog log;
-  EXPECT_EQ(ReadRecordFile(doc, nullptr, log), 0);
 }
 
 TEST(RecordReaderTest, LongRecordsStopAtTheCapacityWithAMessage) {
@@ -140,7 +132,7 @@ TEST(RecordReaderTest, LongRecordsStopAtTheCapacityWithAMessage) {
   EXPECT_THAT(read.messages, IsEmpty());
   EXPECT_EQ(doc.record_sample_count, kRecordCapacity);
 
-  // Ten million lines: cut at the capacity, promptly, with the message.
+  // Ten million lines: cut at the capacity, with the message.
   std::string huge;
   huge.reserve(10'000'000 * 6);
   for (int i = 0; i < 10'000'000; ++i) huge += "1,-2\n";
@@ -154,16 +146,15 @@ TEST(RecordReaderTest, LongRecordsStopAtTheCapacityWithAMessage) {
 
 TEST(RecordCurveTest, TimeHistoryTitlesAndLastOfEqualPeaks) {
   CZELwDoc doc;
-  PrepareRecordDocument(doc, 0.5, 1.0, "Test record");
-  MessageLog log;
-  const std::string text = EvenRecord({0.1, -0.6, 0.3, 0.6, -0.2}, 0.01);
-  ASSERT_EQ(ShowRecordCurve(doc, OpenBytes(text), log), 1);
-  EXPECT_THAT(log.texts(), IsEmpty());
+  const Read shown = ShowRecord(
+      doc, EvenRecord({0.1, -0.6, 0.3, 0.6, -0.2}, 0.01), 0.5, 1.0, "Test");
+  ASSERT_EQ(shown.result, 1);
+  EXPECT_THAT(shown.messages, IsEmpty());
   // Amplitude scale 0.5: peaks of 0.3 at 0.01 s and 0.03 s; the later wins.
   EXPECT_EQ(ContextLabel(doc), "Max =   0.3000(g) at  0.030 sec");
   EXPECT_EQ(doc.title, "Earthquake Record");
   EXPECT_EQ(doc.window_title, "Earthquake Record");
-  EXPECT_EQ(doc.subtitle, "Test record");
+  EXPECT_EQ(doc.subtitle, "Test");
   EXPECT_EQ(doc.AxisTitle(0), "Time (sec)");
   EXPECT_EQ(doc.AxisTitle(1), "Ground Accel. (g)");
   // Points stored without the last mark.
@@ -176,9 +167,9 @@ TEST(RecordCurveTest, TimeHistoryTitlesAndLastOfEqualPeaks) {
 
   // A failed read: the reader's message, then the curve's.
   CZELwDoc failed;
-  log.Clear();
-  EXPECT_EQ(ShowRecordCurve(failed, OpenBytes("1 2\n"), log), 0);
-  EXPECT_THAT(log.texts(),
+  const Read bad = ShowRecord(failed, "1 2\n");
+  EXPECT_EQ(bad.result, 0);
+  EXPECT_THAT(bad.messages,
               ElementsAre("Error : Wrong Format!",
                           "an Error occurred while reading data!"));
   EXPECT_EQ(failed.StoredPoints(0), 0u);
