@@ -17,7 +17,7 @@
 #include "core/document/test_files.h"
 #include "core/records/chart_setup.h"
 #include "core/records/record_catalog.h"
-#include "core/records/record_text.h"
+#include "core/records/record_fixtures.h"
 #include "core/records/response_spectrum.h"
 #include "core/records/spectrum_choices.h"
 

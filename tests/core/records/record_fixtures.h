@@ -14,17 +14,24 @@
 
 namespace zel::testing {
 
-// Evenly sampled "time, value" lines from `start`, every digit kept.
-inline std::string EvenRecord(const std::vector<double>& values, double dt,
-                              double start = 0.0) {
+// "time, value" lines, every digit kept.
+inline std::string RecordText(const std::vector<double>& times,
+                              const std::vector<double>& values) {
   std::string text;
   char line[96];
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    std::snprintf(line, sizeof line, "%.17g, %.17g\n", start + i * dt,
-                  values[i]);
+  for (std::size_t i = 0; i < times.size() && i < values.size(); ++i) {
+    std::snprintf(line, sizeof line, "%.17g, %.17g\n", times[i], values[i]);
     text += line;
   }
   return text;
+}
+
+// Evenly sampled "time, value" lines from `start`.
+inline std::string EvenRecord(const std::vector<double>& values, double dt,
+                              double start = 0.0) {
+  std::vector<double> times(values.size());
+  for (std::size_t i = 0; i < values.size(); ++i) times[i] = start + i * dt;
+  return RecordText(times, values);
 }
 
 // amplitude sin(2 pi hz t) e^(-decay t) at t = i dt.

@@ -7,7 +7,7 @@
 
 #include "core/document/test_files.h"
 #include "core/records/oscillator.h"
-#include "core/records/record_text.h"
+#include "core/records/record_fixtures.h"
 #include "core/records/response_spectrum.h"
 #include "core/records/spectrum_reference.h"
 
