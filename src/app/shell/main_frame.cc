@@ -12,9 +12,11 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
+#include <algorithm>
 
 #include "app/dialogs/about_box.h"
 #include "app/shell/child_frame.h"
+#include "app/shell/child_placement.h"
 #include "app/shell/command_table.h"
 #include "app/shell/zelw_app.h"
 #include "core/document/c_format.h"
@@ -189,13 +191,57 @@ CChildFrame* CMainFrame::AddChild(std::unique_ptr<CZELwDoc> doc) {
           &CMainFrame::OnActiveChildChanged);
   connect(&child->GetView(), &ChartWidget::CursorMoved, this,
           &CMainFrame::OnCursorMoved);
-  // Three quarters of the main window, which may not be laid out yet.
-  child->resize(std::max(480, width() * 3 / 4),
-                std::max(360, height() * 3 / 4));
+  // A size that fits the visible area, one step below and right of the
+  // previous window; a set position also keeps Qt's own placement away.
+  const QRect area = ChildArea();
+  const QSize size = ChildWindowSize(area.size());
+  const QList<QMdiSubWindow*> others =
+      mdi_->subWindowList(QMdiArea::CreationOrder);
+  QPoint position = area.topLeft();
+  for (qsizetype i = others.size() - 1; i >= 0; --i) {
+    if (others[i] != child && others[i]->isVisible()) {
+      position =
+          NextCascadePosition(area, others[i]->pos(), size, CascadeStep());
+      break;
+    }
+  }
+  child->setGeometry(QRect(position, size));
   child->show();
   mdi_->setActiveSubWindow(child);
   OnActiveChildChanged();
   return child;
+}
+
+QRect CMainFrame::ChildArea() const {
+  // Before the main window is first shown its layout has not run; its own
+  // size stands in for the area then.
+  return mdi_->isVisible() ? mdi_->viewport()->rect() : QRect(QPoint(), size());
+}
+
+int CMainFrame::CascadeStep() const {
+  const QStyle* s = style();
+  return std::max(16, s->pixelMetric(QStyle::PM_TitleBarHeight) +
+                          s->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth));
+}
+
+void CMainFrame::CascadeChildren() {
+  // Qt's own cascade shrinks the windows to their size hints; here every
+  // window keeps the size a new one gets.
+  const QRect area = ChildArea();
+  const QSize size = ChildWindowSize(area.size());
+  QMdiSubWindow* active = mdi_->activeSubWindow();
+  bool first = true;
+  QPoint position = area.topLeft();
+  for (QMdiSubWindow* window : mdi_->subWindowList(QMdiArea::StackingOrder)) {
+    if (window->isHidden() || window->isMinimized()) continue;
+    if (window->isMaximized()) window->showNormal();
+    if (!first)
+      position = NextCascadePosition(area, position, size, CascadeStep());
+    first = false;
+    window->setGeometry(QRect(position, size));
+    window->raise();
+  }
+  if (active) mdi_->setActiveSubWindow(active);
 }
 
 CChildFrame* CMainFrame::ActiveChild() const {
@@ -238,7 +284,7 @@ void CMainFrame::OnCommand(int id) {
       statusBar()->setVisible(!statusBar()->isVisible());
       break;
     case ID_WINDOW_CASCADE:
-      mdi_->cascadeSubWindows();
+      CascadeChildren();
       break;
     case ID_WINDOW_TILE:
       mdi_->tileSubWindows();

@@ -60,6 +60,14 @@ class CMainFrame : public QMainWindow {
   void RebuildRecentFiles();
   void OnActiveChildChanged();
   void OnCursorMoved(double x, double y);
+  // The visible part of the multi-document area, in its children's
+  // coordinates.
+  QRect ChildArea() const;
+  // The offset between cascaded windows: one title bar.
+  int CascadeStep() const;
+  // Window / Cascade: every window at the size of a new one, each one step
+  // below and right of the one behind it.
+  void CascadeChildren();
 
   CZELwApp& app_;
   CommandRegistry commands_;
