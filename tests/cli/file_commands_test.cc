@@ -66,5 +66,20 @@ TEST(FileCommandsTest, ConvertWritesColumnPairsWithAHeader) {
             "0.2,-3,,\n");
 }
 
+TEST(FileCommandsTest, ConvertChoosesTheFormatByTheExtensionInAnyCase) {
+  TempDir dir;
+  zel::testing::WriteAll(dir / "s.zel", kSpectrum);
+  const std::string in = "convert '" + (dir / "s.zel").string() + "' '";
+  auto r = RunCli(in + (dir / "upper.CSV").string() + "'");
+  EXPECT_EQ(r.status, 0) << r.out;
+  EXPECT_THAT(zel::testing::ReadAll(dir / "upper.CSV"),
+              ::testing::StartsWith("\"Period Tn (sec)\","));
+  // A non-ASCII extension is not CSV: the data file is written.
+  r = RunCli(in + (dir / "s.\xc3\x89csv").string() + "'");
+  EXPECT_EQ(r.status, 0) << r.out;
+  EXPECT_THAT(zel::testing::ReadAll(dir / "s.\xc3\x89csv"),
+              ::testing::StartsWith("*ZELw\n"));
+}
+
 }  // namespace
 }  // namespace zel
