@@ -1,13 +1,12 @@
 #include "cli/design_command.h"
 
 #include <cctype>
-#include <charconv>
 #include <iostream>
 #include <map>
 #include <memory>
 #include <string>
-#include <system_error>
 
+#include "cli/number_text.h"
 #include "cli/output_file.h"
 #include "cli/stderr_messages.h"
 #include "core/codes/code_registry.h"
@@ -50,16 +49,6 @@ std::string ChoiceKeys(const ParamDescriptor& param) {
     keys += key;
   }
   return keys;
-}
-
-// A whole decimal number, in the C locale whatever the user's locale.
-bool IsNumberText(const std::string& text) {
-  const char* first = text.data();
-  const char* last = first + text.size();
-  if (first != last && *first == '+') ++first;
-  double value;
-  const auto [end, error] = std::from_chars(first, last, value);
-  return error == std::errc() && end == last && first != last;
 }
 
 bool IsIntegerText(const std::string& text) {

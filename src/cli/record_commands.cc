@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/number_text.h"
 #include "cli/output_file.h"
 #include "cli/stderr_messages.h"
 #include "core/document/c_format.h"
@@ -43,13 +44,10 @@ struct RecordOptions {
   throw CLI::RuntimeError(1);
 }
 
-// A whole number in the C locale's notation; fails with a message naming
-// the option otherwise.
+// The value of a number option; fails with a message naming the option when
+// the text is not a number.
 double Number(const std::string& text, const char* option) {
-  double value = 0.0;
-  const char* end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, value);
-  if (text.empty() || error != std::errc() || stop != end) {
+  if (!IsNumberText(text)) {
     Fail(std::string(option) + ": not a number: " + text);
   }
   return AtoF(text);

@@ -77,6 +77,11 @@ TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
   EXPECT_EQ(r.out, ContextLabel(doc) + "\n");
   EXPECT_THAT(r.out, StartsWith("Max =   0.1"));
   EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
+  // Numbers read as the design options read them: a leading "+" is allowed.
+  r = RunTo(dir, "record " + quake + " --amp-scale +0.5 --time-scale +2",
+            "plus.zel");
+  ASSERT_EQ(r.status, 0) << r.out;
+  EXPECT_EQ(ReadAll(dir / "plus.zel"), ReadAll(dir / "out.zel"));
 
   // A catalog entry by number or title, from the dbase/ folder of --base.
   const std::string base = " --base " + Quoted(dir.path());
