@@ -122,7 +122,6 @@ class CZELwDoc {
   double period_to = 0.0;
   int period_steps = 0;
   std::vector<RecordSample> record_samples;  // at most kRecordCapacity
-  int record_sample_count = 0;
   double record_time_step = 0.0;
   std::string record_name;
 

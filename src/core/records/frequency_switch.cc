@@ -1,6 +1,5 @@
 #include "core/records/frequency_switch.h"
 
-#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -87,8 +86,7 @@ bool SwitchTimeFrequency(CZELwDoc& doc, MessageSink& messages) {
     ShowTimeHistory(doc);
     return true;
   }
-  const int count = std::min(doc.record_sample_count,
-                             static_cast<int>(doc.record_samples.size()));
+  const int count = static_cast<int>(doc.record_samples.size());
   if (count < 2) {
     messages.Show("Error : Too few points for a frequency spectrum!");
     return false;

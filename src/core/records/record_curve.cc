@@ -1,6 +1,5 @@
 #include "core/records/record_curve.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "core/document/c_format.h"
@@ -19,8 +18,7 @@ void PrepareRecordDocument(CZELwDoc& doc, double amplitude_scale,
 
 RecordPeak StoreTimeHistory(CZELwDoc& doc) {
   RecordPeak peak;
-  const int count = std::min(doc.record_sample_count,
-                             static_cast<int>(doc.record_samples.size()));
+  const int count = static_cast<int>(doc.record_samples.size());
   for (int k = 0; k < count; ++k) {
     const RecordSample& sample = doc.record_samples[k];
     doc.SetPoint(k, 0, sample.time, sample.value, 0);

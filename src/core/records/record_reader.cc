@@ -74,7 +74,6 @@ int ReadRecordFile(CZELwDoc& doc, std::FILE* file, MessageSink& messages) {
   }
   if (cut) messages.Show(kRecordCutMessage);
   doc.record_samples = std::move(samples);
-  doc.record_sample_count = static_cast<int>(doc.record_samples.size());
   return 1;
 }
 

@@ -10,7 +10,7 @@
 
 namespace zel {
 
-// Reads the whole stream into doc.record_samples, record_sample_count and
+// Reads the whole stream into doc.record_samples and
 // record_time_step, applying the document's time scale, amplitude scale and
 // (unless results_in_g is set) gravity. Takes ownership of `file` and closes
 // it in every case (a null `file` fails as an empty one). Returns 1 on

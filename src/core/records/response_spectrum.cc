@@ -123,8 +123,7 @@ int ComputeResponseSpectrum(CZELwDoc& doc, std::FILE* file,
     doc.ToggleLogX();
   }
 
-  const int n = std::min(doc.record_sample_count,
-                         static_cast<int>(doc.record_samples.size()));
+  const int n = static_cast<int>(doc.record_samples.size());
   std::vector<double> accel(static_cast<std::size_t>(n));
   for (int i = 0; i < n; ++i) accel[i] = doc.record_samples[i].value;
   const bool starts_at_zero = n > 0 && doc.record_samples[0].time == 0.0;

@@ -58,7 +58,7 @@ TEST(RecordReaderTest, ScalesTimeStepAndLastLineWithoutLineEnd) {
                          "\t0.03,0.8\n0.045, 1.0");
   ASSERT_EQ(read.result, 1);
   EXPECT_THAT(read.messages, IsEmpty());
-  ASSERT_EQ(doc.record_sample_count, 5);
+  ASSERT_EQ(doc.record_samples.size(), 5u);
   EXPECT_DOUBLE_EQ(doc.record_samples[1].time, 0.02);
   EXPECT_DOUBLE_EQ(doc.record_samples[4].time, 0.09);
   EXPECT_DOUBLE_EQ(doc.record_samples[1].value, -0.1 * 9815.0);
@@ -78,7 +78,7 @@ TEST(RecordReaderTest, ScalesTimeStepAndLastLineWithoutLineEnd) {
   three.record_time_step = 7.0;
   ASSERT_EQ(ReadRecord(three, "0,1\n1,2\n2,3\n").result, 1);
   EXPECT_EQ(three.record_time_step, 7.0);
-  EXPECT_EQ(three.record_sample_count, 3);
+  EXPECT_EQ(three.record_samples.size(), 3u);
 
   // A lone "*" reads as time 0 and still needs its comma; text reads as 0.
   CZELwDoc star;
@@ -113,7 +113,7 @@ TEST(RecordReaderTest, BadFilesGiveTheirMessagesAndKeepThePreviousRecord) {
   // Failed reads leave the record that was there; a null stream fails too.
   MessageLog log;
   EXPECT_EQ(ReadRecordFile(doc, nullptr, log), 0);
-  EXPECT_EQ(doc.record_sample_count, 2);
+  EXPECT_EQ(doc.record_samples.size(), 2u);
   EXPECT_EQ(doc.record_samples[1].value, 2.0);
 
   // Not-a-number values are taken as they are.
@@ -130,7 +130,8 @@ TEST(RecordReaderTest, LongRecordsStopAtTheCapacityWithAMessage) {
   Read read = ReadRecord(doc, exactly);
   EXPECT_EQ(read.result, 1);
   EXPECT_THAT(read.messages, IsEmpty());
-  EXPECT_EQ(doc.record_sample_count, kRecordCapacity);
+  EXPECT_EQ(doc.record_samples.size(),
+            static_cast<std::size_t>(kRecordCapacity));
 
   // Ten million lines: cut at the capacity, with the message.
   std::string huge;
@@ -139,7 +140,6 @@ TEST(RecordReaderTest, LongRecordsStopAtTheCapacityWithAMessage) {
   read = ReadRecord(doc, huge);
   EXPECT_EQ(read.result, 1);
   EXPECT_THAT(read.messages, ElementsAre(kRecordCutMessage));
-  EXPECT_EQ(doc.record_sample_count, kRecordCapacity);
   EXPECT_EQ(doc.record_samples.size(),
             static_cast<std::size_t>(kRecordCapacity));
 }
