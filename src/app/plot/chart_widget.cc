@@ -4,8 +4,6 @@
 #include <cmath>
 #include <vector>
 
-#include "core/document/chart_geometry.h"
-
 namespace zel::app {
 namespace {
 
@@ -99,24 +97,33 @@ void ChartWidget::Rebuild() {
   display->SetTripartite(doc_.tripartite);
   display->SetGravityFactor(doc_.gravity);
 
+  const std::vector<PlotSeries> series = AllDrawablePoints();
   clearGraphs();
-  AddCurves();
+  AddCurves(series);
   AddLegend();
   clearItems();
   AddLabels();
-  if (!(TakeFingerprint() == fitted_)) FitRanges();
+  if (!(TakeFingerprint() == fitted_)) FitRanges(series);
   replot();
 }
 
 void ChartWidget::ZoomOutAll() {
-  FitRanges();
+  FitRanges(AllDrawablePoints());
   replot();
 }
 
-void ChartWidget::AddCurves() {
+std::vector<PlotSeries> ChartWidget::AllDrawablePoints() const {
+  std::vector<PlotSeries> series;
+  series.reserve(kMaxCurves);
+  for (int c = 0; c < kMaxCurves; ++c)
+    series.push_back(DrawablePoints(doc_, c));
+  return series;
+}
+
+void ChartWidget::AddCurves(const std::vector<PlotSeries>& series) {
   for (int c = 0; c < kMaxCurves; ++c) {
     if (doc_.StoredPoints(c) == 0) continue;
-    const PlotSeries s = DrawablePoints(doc_, c);
+    const PlotSeries& s = series[c];
     QCPGraph* graph = addGraph();
     graph->setData(QVector<double>(s.x.begin(), s.x.end()),
                    QVector<double>(s.y.begin(), s.y.end()));
@@ -186,10 +193,7 @@ ChartWidget::Fingerprint ChartWidget::TakeFingerprint() const {
   return f;
 }
 
-void ChartWidget::FitRanges() {
-  std::vector<PlotSeries> series;
-  for (int c = 0; c < kMaxCurves; ++c)
-    series.push_back(DrawablePoints(doc_, c));
+void ChartWidget::FitRanges(const std::vector<PlotSeries>& series) {
   const ChartRanges r = FitChartRanges(doc_, series);
   xAxis->setRange(r.x.lower, r.x.upper);
   yAxis->setRange(r.y.lower, r.y.upper);

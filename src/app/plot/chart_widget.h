@@ -7,8 +7,10 @@
 
 #include <array>
 #include <cstddef>
+#include <vector>
 
 #include "app/plot/my_graph_display.h"
+#include "core/document/chart_geometry.h"
 #include "core/document/curve_document.h"
 #include "qcustomplot.h"
 
@@ -54,10 +56,12 @@ class ChartWidget : public QCustomPlot {
   void SetUpAxes();
   // Log or linear; a positive `step` fixes a linear axis's tick step.
   void SetScale(QCPAxis* axis, bool log, double step);
-  void AddCurves();
+  // The drawable points of every curve, in curve order.
+  std::vector<PlotSeries> AllDrawablePoints() const;
+  void AddCurves(const std::vector<PlotSeries>& series);
   void AddLegend();
   void AddLabels();
-  void FitRanges();
+  void FitRanges(const std::vector<PlotSeries>& series);
   Fingerprint TakeFingerprint() const;
 
   const CZELwDoc& doc_;
