@@ -5,6 +5,7 @@
 
 #include "app/shell/command_table.h"
 #include "app_fixture.h"
+#include "core/records/chart_setup.h"
 
 namespace zel::app::testing {
 namespace {
@@ -49,6 +50,32 @@ TEST_F(AppFixture, TickLabelsIgnoreTheDesktopLocale) {
   const QStringList labels = view.xAxis->tickVectorLabels();
   EXPECT_TRUE(labels.contains("0.5")) << labels.join(' ').toStdString();
   for (const QString& label : labels) EXPECT_FALSE(label.contains(','));
+}
+
+TEST_F(AppFixture, ContextLabelStaysInsideThePlotFrame) {
+  CZELwDoc* doc = app_->NewDocument(kNewDocumentDesignSpectrum);
+  for (int i = 0; i <= 100; ++i) {
+    doc->SetPoint(i, 0, 0.01 * i, (i % 7 - 3) * 0.1, 0);
+  }
+  doc->title = "Earthquake Record";
+  doc->subtitle = "1940, El Centro Site, 270 Deg";
+  SetUpChart(*doc);
+  SetContextLabel(*doc, "Max =   0.3000(g) at  0.030 sec");
+  doc->UpdateAllViews();
+  CZELwView& view = child()->GetView();
+  for (const QSize size : {QSize(900, 620), QSize(480, 300)}) {
+    child()->resize(size);
+    view.RenderImage();  // lays the chart out and draws it
+    ASSERT_EQ(view.itemCount(), 1);
+    auto* label = qobject_cast<QCPItemText*>(view.item(0));
+    ASSERT_NE(label, nullptr);
+    const QRect plot = view.axisRect()->rect();
+    const QPointF top_left = label->topLeft->pixelPosition();
+    const QPointF bottom_right = label->bottomRight->pixelPosition();
+    EXPECT_GT(top_left.y(), plot.top()) << size.height();
+    EXPECT_LT(bottom_right.y(), plot.bottom()) << size.height();
+    EXPECT_GT(top_left.x(), plot.left()) << size.width();
+  }
 }
 
 }  // namespace

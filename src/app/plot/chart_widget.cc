@@ -156,7 +156,12 @@ void ChartWidget::AddLabels() {
   for (const ChartLabel& label : doc_.chart.labels) {
     auto* item = new QCPItemText(this);
     item->setClipToAxisRect(false);
-    item->position->setType(QCPItemPosition::ptViewportRatio);
+    if (label.in_plot_area) {
+      item->position->setAxisRect(axisRect());
+      item->position->setType(QCPItemPosition::ptAxisRectRatio);
+    } else {
+      item->position->setType(QCPItemPosition::ptViewportRatio);
+    }
     item->position->setCoords(label.x_percent / 100.0, label.y_percent / 100.0);
     item->setPositionAlignment(Qt::AlignLeft | Qt::AlignTop);
     item->setTextAlignment(Qt::AlignLeft);

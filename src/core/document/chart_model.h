@@ -35,7 +35,7 @@ struct SeriesStyle {
 };
 
 // A free text on the chart, anchored at a position given in per cent of the
-// chart's area from its left-top corner.
+// chart's area (or of the plot area) from its left-top corner.
 struct ChartLabel {
   enum Style { kPlain = 0, kBoxed = 1 };
   std::string title;
@@ -43,6 +43,8 @@ struct ChartLabel {
   double x_percent = 0.0;
   double y_percent = 0.0;
   int style = kPlain;
+  // The position is in per cent of the plot area inside the frame.
+  bool in_plot_area = false;
 };
 
 // The legend; entry k names curve k.

@@ -3,10 +3,11 @@
 namespace zel {
 namespace {
 
-// Where the context label sits, in per cent of the chart area: the upper
-// right, clear of the title lines.
+// Where the context label sits, in per cent of the plot area: just inside
+// the top of the frame, in the room a linear axis leaves above the curves,
+// whatever the number of title lines and the window's size.
 constexpr double kContextLabelX = 55.0;
-constexpr double kContextLabelY = 12.0;
+constexpr double kContextLabelY = 1.0;
 
 bool HasContextLabel(const CZELwDoc& doc) {
   return doc.context_label_index >= 0 &&
@@ -33,6 +34,7 @@ void SetContextLabel(CZELwDoc& doc, const std::string& text) {
   label.content = text;
   label.x_percent = kContextLabelX;
   label.y_percent = kContextLabelY;
+  label.in_plot_area = true;
   doc.AddLabel(label);
   doc.context_label_index = static_cast<int>(doc.chart.labels.size()) - 1;
 }
