@@ -181,5 +181,28 @@ TEST_F(AppFixture, FrameworkOpeningMakesAnEmptyChartNamedAfterTheFile) {
   EXPECT_EQ(messages(), std::vector<std::string>{"ERROR! File Not Found!"});
 }
 
+TEST_F(AppFixture, RecentFileThatNoLongerOpensLeavesTheList) {
+  TempDir dir;
+  const QString kept =
+      QString::fromStdString((dir.path() / "kept.zel").string());
+  const QString gone =
+      QString::fromStdString((dir.path() / "gone.zel").string());
+  WriteAll(dir.path() / "kept.zel", kThreeCurves);
+  app_->AddToRecentFileList(kept);
+  app_->AddToRecentFileList(gone);  // entry 1, never written
+  QAction* first = nullptr;
+  for (QAction* a : frame().findChildren<QAction*>()) {
+    if (a->data().toInt() == ID_FILE_MRU_FILE1) first = a;
+  }
+  ASSERT_NE(first, nullptr);
+  first->trigger();
+  EXPECT_EQ(messages(), std::vector<std::string>{"ERROR! File Not Found!"});
+  EXPECT_EQ(app_->RecentFiles(), QStringList{kept});
+  QSettings settings("Local AppWizard-Generated Applications", "ZEL");
+  EXPECT_EQ(settings.value("Recent File List/File1").toString(), kept);
+  EXPECT_FALSE(settings.contains("Recent File List/File2"));
+  EXPECT_TRUE(frame().mdi_area()->subWindowList().isEmpty());
+}
+
 }  // namespace
 }  // namespace zel::app::testing

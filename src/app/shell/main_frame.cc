@@ -173,9 +173,8 @@ void CMainFrame::RebuildRecentFiles() {
         new QAction(QStringLiteral("&%1 %2").arg(i + 1).arg(files[i]), file);
     action->setStatusTip(QLatin1String(kRecentFilePrompt));
     action->setData(ID_FILE_MRU_FILE1 + i);
-    const QString path = files[i];
     connect(action, &QAction::triggered, this,
-            [this, path] { app_.OpenDocumentFile(path); });
+            [this, i] { app_.OpenRecentFile(i); });
     file->insertAction(recent_separator_, action);
     recent_actions_ << action;
   }

@@ -76,6 +76,15 @@ CZELwDoc* CZELwApp::OpenDocumentFile(const QString& path) {
   return doc;
 }
 
+void CZELwApp::OpenRecentFile(int index) {
+  if (index < 0 || index >= RecentFiles().size()) return;
+  const QString path = RecentFiles()[index];
+  if (OpenDocumentFile(path) != nullptr) return;
+  recent_files_.Remove(index);
+  recent_files_.Save();
+  emit RecentFilesChanged();
+}
+
 void CZELwApp::AddToRecentFileList(const QString& path) {
   recent_files_.Add(path);
   recent_files_.Save();

@@ -61,6 +61,9 @@ class CZELwApp : public QObject {
   // command line): an empty chart titled with the file's name. Only File Open
   // reads the data file; this is kept as it is.
   CZELwDoc* OpenDocumentFile(const QString& path);
+  // Opens entry `index` of the recent-file list as OpenDocumentFile does; an
+  // entry that no longer opens leaves the list, as in the framework.
+  void OpenRecentFile(int index);
 
   const QStringList& RecentFiles() const { return recent_files_.files(); }
   void AddToRecentFileList(const QString& path);
