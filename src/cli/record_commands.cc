@@ -89,7 +89,7 @@ RecordSource FindRecord(const RecordOptions& options,
 
 std::FILE* OpenRecord(const RecordSource& source) {
   std::FILE* file = std::fopen(source.path.c_str(), "r");
-  if (file == nullptr) Fail("ERROR! File Not Found!");
+  if (file == nullptr) Fail(kFileNotFoundMessage);
   return file;
 }
 

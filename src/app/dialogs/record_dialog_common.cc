@@ -136,7 +136,7 @@ std::FILE* OpenRecordFile(const std::string& path, MessageSink& messages) {
   std::FILE* file = QFileInfo(QFile::decodeName(path.c_str())).isDir()
                         ? nullptr
                         : std::fopen(path.c_str(), "r");
-  if (file == nullptr) messages.Show("ERROR! File Not Found!");
+  if (file == nullptr) messages.Show(kFileNotFoundMessage);
   return file;
 }
 

@@ -16,7 +16,6 @@ constexpr const char* kSaveFilter =
 constexpr const char* kNoMetafile =
     "Saving the chart as an enhanced metafile is not available yet; nothing "
     "was saved. Choose BMP or JPEG for an image.";
-constexpr const char* kCannotWrite = "ERROR! File Not Found!";
 
 }  // namespace
 
@@ -109,10 +108,12 @@ void CChildFrame::OnFileSave() {
       }
       break;
     case SaveKind::kBitmap:
-      if (!SaveChartImage(*view_, path, "BMP")) messages.Show(kCannotWrite);
+      if (!SaveChartImage(*view_, path, "BMP"))
+        messages.Show(kFileNotFoundMessage);
       break;
     case SaveKind::kJpeg:
-      if (!SaveChartImage(*view_, path, "JPG")) messages.Show(kCannotWrite);
+      if (!SaveChartImage(*view_, path, "JPG"))
+        messages.Show(kFileNotFoundMessage);
       break;
     case SaveKind::kMetafile:
       messages.Show(kNoMetafile);

@@ -15,7 +15,6 @@ namespace {
 constexpr const char* kOpenFilter =
     "ZEL Files (*.zel)|*.zel|ALL Files (*.*)|*.*|";
 constexpr const char* kReadFailed = "An Error occured while reading data";
-constexpr const char* kFileNotFound = "ERROR! File Not Found!";
 
 }  // namespace
 
@@ -52,7 +51,7 @@ void CZELwApp::OnFileOpen() {
   if (path.isEmpty()) return;
   std::FILE* file = std::fopen(QFile::encodeName(path).constData(), "r");
   if (!file) {
-    messages().Show(kFileNotFound);
+    messages().Show(kFileNotFoundMessage);
     return;
   }
   CZELwDoc* doc = NewDocument(kNewDocumentFromFile);
@@ -66,7 +65,7 @@ void CZELwApp::OnFileOpen() {
 
 CZELwDoc* CZELwApp::OpenDocumentFile(const QString& path) {
   if (!QFileInfo(path).isFile()) {
-    messages().Show(kFileNotFound);
+    messages().Show(kFileNotFoundMessage);
     return nullptr;
   }
   CZELwDoc* doc = NewDocument(new_document_mode_);

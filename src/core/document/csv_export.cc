@@ -70,13 +70,13 @@ bool WriteCsvFile(const CZELwDoc& doc, const std::string& path,
                   MessageSink& messages) {
   std::FILE* file = std::fopen(path.c_str(), "w");
   if (file == nullptr) {
-    messages.Show("ERROR! File Not Found!");
+    messages.Show(kFileNotFoundMessage);
     return false;
   }
   const std::string text = CurvesToCsv(doc);
   bool ok = std::fwrite(text.data(), 1, text.size(), file) == text.size();
   ok = std::fclose(file) == 0 && ok;
-  if (!ok) messages.Show("ERROR! File Not Found!");
+  if (!ok) messages.Show(kFileNotFoundMessage);
   return ok;
 }
 

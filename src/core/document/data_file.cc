@@ -11,8 +11,6 @@
 namespace zel {
 namespace {
 
-constexpr char kFileNotFound[] = "ERROR! File Not Found!";
-
 struct FileCloser {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
@@ -203,7 +201,7 @@ bool WriteDataFile(const CZELwDoc& doc, const std::string& path,
   const std::string temp_path = path + ".zel.tmp";
   FilePtr file(std::fopen(temp_path.c_str(), "w"));
   if (!file) {
-    messages.Show(kFileNotFound);
+    messages.Show(kFileNotFoundMessage);
     return false;
   }
   std::string out = "*ZELw\n";
@@ -241,7 +239,7 @@ bool WriteDataFile(const CZELwDoc& doc, const std::string& path,
   ok = std::fclose(file.release()) == 0 && ok;
   if (!ok || std::rename(temp_path.c_str(), path.c_str()) != 0) {
     std::remove(temp_path.c_str());
-    messages.Show(kFileNotFound);
+    messages.Show(kFileNotFoundMessage);
     return false;
   }
   return true;
@@ -249,7 +247,7 @@ bool WriteDataFile(const CZELwDoc& doc, const std::string& path,
 
 int ReadDataFile(CZELwDoc& doc, std::FILE* file, MessageSink& messages) {
   if (file == nullptr) {
-    messages.Show(kFileNotFound);
+    messages.Show(kFileNotFoundMessage);
     return 0;
   }
   return DataFileReader(doc, file, messages).Read();

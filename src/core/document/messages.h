@@ -10,6 +10,9 @@
 
 namespace zel {
 
+// Shown whenever a file cannot be opened, read or written.
+inline constexpr char kFileNotFoundMessage[] = "ERROR! File Not Found!";
+
 class MessageSink {
  public:
   virtual ~MessageSink() = default;
