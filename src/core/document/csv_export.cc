@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/document/c_format.h"
+#include "core/document/replacing_file.h"
 
 namespace zel {
 namespace {
@@ -68,16 +69,12 @@ std::string CurvesToCsv(const CZELwDoc& doc) {
 
 bool WriteCsvFile(const CZELwDoc& doc, const std::string& path,
                   MessageSink& messages) {
-  std::FILE* file = std::fopen(path.c_str(), "w");
-  if (file == nullptr) {
+  ReplacingFile file(path);
+  if (!(file.is_open() && file.Write(CurvesToCsv(doc)) && file.Commit())) {
     messages.Show(kFileNotFoundMessage);
     return false;
   }
-  const std::string text = CurvesToCsv(doc);
-  bool ok = std::fwrite(text.data(), 1, text.size(), file) == text.size();
-  ok = std::fclose(file) == 0 && ok;
-  if (!ok) messages.Show(kFileNotFoundMessage);
-  return ok;
+  return true;
 }
 
 }  // namespace zel

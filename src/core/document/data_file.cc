@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/document/c_format.h"
+#include "core/document/replacing_file.h"
 #include "core/document/tokenizer.h"
 #include "core/document/units.h"
 
@@ -15,10 +16,6 @@ struct FileCloser {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using FilePtr = std::unique_ptr<std::FILE, FileCloser>;
-
-bool WriteAll(std::FILE* file, const std::string& text) {
-  return std::fwrite(text.data(), 1, text.size(), file) == text.size();
-}
 
 // One pass of the reader over an open file.
 class DataFileReader {
@@ -196,11 +193,8 @@ int DataFileReader::Read() {
 
 bool WriteDataFile(const CZELwDoc& doc, const std::string& path,
                    MessageSink& messages) {
-  // Write beside the target and rename over it only when complete: a full
-  // disk or a crash never destroys the previous save.
-  const std::string temp_path = path + ".zel.tmp";
-  FilePtr file(std::fopen(temp_path.c_str(), "w"));
-  if (!file) {
+  ReplacingFile file(path);
+  if (!file.is_open()) {
     messages.Show(kFileNotFoundMessage);
     return false;
   }
@@ -213,32 +207,29 @@ bool WriteDataFile(const CZELwDoc& doc, const std::string& path,
   }
   out += "*UNIT&TYPE, " + doc.unit + ", " + doc.type + "\n";
   out += CFormat("*FLAGS, %d, %d\n", doc.tripartite, doc.damping_flag);
-  bool ok = WriteAll(file.get(), out);
+  bool ok = file.Write(out);
 
   const DataStore& store = doc.store();
   for (int c = 0; ok && c < doc.curve_count && c < kMaxCurves; ++c) {
     out = "*DATA\n";
-    if (doc.damping_flag == 1)
+    if (doc.damping_flag == 1) {
       out += CFormat("*DAMPING, %1.2f\n", doc.damping[c]);
-    for (int i = 0; i < doc.point_count[c]; ++i) {
+    }
+    for (int i = 0; ok && i < doc.point_count[c]; ++i) {
       const double y = store.Value(i, 2 * c + 1);
       out += FormatDataNumber(store.Value(i, 2 * c));
       out += y < 0 ? "\t," : "\t, ";
       out += FormatDataNumber(y);
       out += '\n';
       if (out.size() > (1 << 16)) {
-        ok = WriteAll(file.get(), out);
+        ok = file.Write(out);
         out.clear();
-        if (!ok) break;
       }
     }
-    ok = ok && WriteAll(file.get(), out);
+    ok = ok && file.Write(out);
   }
-  ok = ok && WriteAll(file.get(), "*ENDDATA");
-  ok = std::fflush(file.get()) == 0 && ok;
-  ok = std::fclose(file.release()) == 0 && ok;
-  if (!ok || std::rename(temp_path.c_str(), path.c_str()) != 0) {
-    std::remove(temp_path.c_str());
+  ok = ok && file.Write("*ENDDATA");
+  if (!(ok && file.Commit())) {
     messages.Show(kFileNotFoundMessage);
     return false;
   }
