@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QMdiArea>
 #include <QSettings>
 #include <functional>
 #include <memory>
@@ -52,6 +53,9 @@ class AppFixture : public ::testing::Test {
   CMainFrame& frame() { return *app_->GetMainFrame(); }
   CChildFrame* child() { return frame().ActiveChild(); }
   const std::vector<std::string>& messages() { return messages_->texts(); }
+  int WindowCount() {
+    return static_cast<int>(frame().mdi_area()->subWindowList().size());
+  }
 
   std::unique_ptr<CZELwApp> app_;
   MessageLog* messages_ = nullptr;
