@@ -7,12 +7,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
-#include <QMdiArea>
 #include <QTest>
 #include <clocale>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -22,6 +18,7 @@
 #include "core/codes/kds2019.h"
 #include "core/codes/us_codes.h"
 #include "core/document/data_file.h"
+#include "core/document/test_files.h"
 
 namespace zel::app::testing {
 namespace {
@@ -61,16 +58,10 @@ bool Enabled(QDialog& d, const char* name) {
 
 // The document as a saved .zel file.
 std::string Saved(const CZELwDoc& doc) {
-  const auto path =
-      std::filesystem::temp_directory_path() /
-      ("zel_dialog_" + std::to_string(QCoreApplication::applicationPid()));
+  const zel::testing::TempDir dir;
   MessageLog log;
-  EXPECT_TRUE(WriteDataFile(doc, path.string(), log));
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream bytes;
-  bytes << in.rdbuf();
-  std::filesystem::remove(path);
-  return bytes.str();
+  EXPECT_TRUE(WriteDataFile(doc, (dir / "saved.zel").string(), log));
+  return zel::testing::ReadAll(dir / "saved.zel");
 }
 
 // What a core generator saves from `params` into a bare document, as the
@@ -95,7 +86,6 @@ class DesignDialogs : public AppFixture {
     };
     frame().OnCommand(id);
   }
-  int Windows() { return int(frame().mdi_area()->subWindowList().size()); }
 };
 
 TEST_F(DesignDialogs, DefaultsLabelsAndTheCommandLineDocument) {
@@ -263,7 +253,7 @@ TEST_F(DesignDialogs, SiteClassENoteComesBeforeAnyDocument) {
       Type(d, "s1", ss == std::string("1.2") ? "0.1" : "0.41");
       PressOk(d);
     }
-    EXPECT_EQ(Windows(), 0);
+    EXPECT_EQ(WindowCount(), 0);
     EXPECT_EQ(messages().size(), 2u);
     EXPECT_EQ(messages().front(),
               "Note! In case of Site Class 'E' and Ss > 1.0 or S1 > 0.4, Site "
@@ -274,7 +264,7 @@ TEST_F(DesignDialogs, SiteClassENoteComesBeforeAnyDocument) {
     Type(d, "s1", "0.4");
     PressOk(d);
   });
-  EXPECT_EQ(Windows(), 1);
+  EXPECT_EQ(WindowCount(), 1);
   EXPECT_EQ(frame().ActiveDocument()->title, "IBC2000(ASCE7-98)");
 }
 
@@ -298,14 +288,14 @@ TEST_F(DesignDialogs, FailedCheckLeavesAnEmptyDocumentAndTheDialog) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.message);
     messages_->Clear();
-    const int before = Windows();
+    const int before = WindowCount();
     Open(c.id, [&](DesignCodeDialog& d) {
       if (c.id == ID_DESIGN_UBC97) Choose(d, "option", 1);
       Type(d, c.field, c.text);
       for (int attempt = 1; attempt <= 2; ++attempt) {
         PressOk(d);
         EXPECT_EQ(d.result(), QDialog::Rejected);
-        EXPECT_EQ(Windows(), before + attempt);
+        EXPECT_EQ(WindowCount(), before + attempt);
         EXPECT_EQ(frame().ActiveDocument()->store().Size(0), 0u);
         EXPECT_EQ(frame().ActiveDocument()->point_count[0], 0);
         EXPECT_EQ(d.Values().at(c.field), c.text);
