@@ -22,6 +22,20 @@ constexpr const char* kThreeCurves =
     "*DATA\n*DAMPING, 0.10\n1.0E-2\t, 2.0\n1.0\t, 400.0\n5.0\t, 200.0\n"
     "*ENDDATA";
 
+// Writes `bytes` to `name` in `dir`; the path as the file dialog gives it.
+QString Written(const TempDir& dir, const char* name,
+                const std::string& bytes) {
+  WriteAll(dir / name, bytes);
+  return QString::fromStdString((dir / name).string());
+}
+
+QAction* FirstRecentFile(CMainFrame& frame) {
+  for (QAction* a : frame.findChildren<QAction*>()) {
+    if (a->data().toInt() == ID_FILE_MRU_FILE1) return a;
+  }
+  return nullptr;
+}
+
 TEST_F(AppFixture, FileOpenReadsGoodAndBadFiles) {
   TempDir dir;
   const struct {
@@ -48,13 +62,12 @@ TEST_F(AppFixture, FileOpenReadsGoodAndBadFiles) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     messages_->Clear();
-    WriteAll(dir.path() / c.name, c.bytes);
-    next_open_ = QString::fromStdString((dir.path() / c.name).string());
+    next_open_ = Written(dir, c.name, c.bytes);
     frame().OnCommand(ID_FILE_OPEN);
     EXPECT_EQ(messages(), c.messages);
     EXPECT_EQ(app_->new_document_mode(), kNewDocumentFromFile);
     // The document stays open however the reading ended.
-    EXPECT_EQ(frame().mdi_area()->subWindowList().size(), ++documents);
+    EXPECT_EQ(WindowCount(), ++documents);
     ASSERT_NE(child(), nullptr);
     EXPECT_EQ(child()->GetView().graphCount(), c.graphs);
   }
@@ -63,16 +76,14 @@ TEST_F(AppFixture, FileOpenReadsGoodAndBadFiles) {
   frame().OnCommand(ID_FILE_OPEN);  // any document's title will do
   EXPECT_EQ(app_->RecentFiles().size(), 4);
 
-  // Cancel makes nothing.
-  next_open_.clear();
+  next_open_.clear();  // Cancel
   frame().OnCommand(ID_FILE_OPEN);
-  EXPECT_EQ(frame().mdi_area()->subWindowList().size(), documents + 1);
+  EXPECT_EQ(WindowCount(), documents + 1);
 }
 
 TEST_F(AppFixture, OpenedDocumentShowsItsCurvesAndTitles) {
   TempDir dir;
-  WriteAll(dir.path() / "three.zel", kThreeCurves);
-  next_open_ = QString::fromStdString((dir.path() / "three.zel").string());
+  next_open_ = Written(dir, "three.zel", kThreeCurves);
   frame().OnCommand(ID_FILE_OPEN);
   ASSERT_NE(child(), nullptr);
   CZELwView& view = child()->GetView();
@@ -110,7 +121,7 @@ TEST_F(AppFixture, SaveWritesByExtension) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     messages_->Clear();
-    const auto path = dir.path() / c.name;
+    const auto path = dir / c.name;
     next_save_ = QString::fromStdString(path.string());
     frame().OnCommand(ID_FILE_SAVE);
     const std::string bytes = ReadAll(path);
@@ -139,16 +150,14 @@ TEST_F(AppFixture, SaveWritesByExtension) {
 
   // A folder that does not exist.
   messages_->Clear();
-  next_save_ = QString::fromStdString((dir.path() / "none" / "x.bmp").string());
+  next_save_ = QString::fromStdString((dir / "none" / "x.bmp").string());
   frame().OnCommand(ID_FILE_SAVE);
   EXPECT_EQ(messages(), std::vector<std::string>{"ERROR! File Not Found!"});
 }
 
 TEST_F(AppFixture, FrameworkOpeningMakesAnEmptyChartNamedAfterTheFile) {
   TempDir dir;
-  WriteAll(dir.path() / "three.zel", kThreeCurves);
-  const QString path =
-      QString::fromStdString((dir.path() / "three.zel").string());
+  const QString path = Written(dir, "three.zel", kThreeCurves);
   CZELwDoc* doc = app_->OpenDocumentFile(path);
   ASSERT_NE(doc, nullptr);
   EXPECT_EQ(doc->window_title, "three.zel");
@@ -157,14 +166,11 @@ TEST_F(AppFixture, FrameworkOpeningMakesAnEmptyChartNamedAfterTheFile) {
   EXPECT_EQ(app_->RecentFiles().first(), path);
 
   // Through the recent-file list, the same.
-  QAction* recent = nullptr;
-  for (QAction* a : frame().findChildren<QAction*>()) {
-    if (a->data().toInt() == ID_FILE_MRU_FILE1) recent = a;
-  }
+  QAction* recent = FirstRecentFile(frame());
   ASSERT_NE(recent, nullptr);
   EXPECT_EQ(recent->text(), "&1 " + path);
   recent->trigger();
-  EXPECT_EQ(frame().mdi_area()->subWindowList().size(), 2);
+  EXPECT_EQ(WindowCount(), 2);
   EXPECT_EQ(frame().ActiveDocument()->window_title, "three.zel");
 
   // The list lives in the framework's settings, four entries at most.
@@ -183,17 +189,11 @@ TEST_F(AppFixture, FrameworkOpeningMakesAnEmptyChartNamedAfterTheFile) {
 
 TEST_F(AppFixture, RecentFileThatNoLongerOpensLeavesTheList) {
   TempDir dir;
-  const QString kept =
-      QString::fromStdString((dir.path() / "kept.zel").string());
-  const QString gone =
-      QString::fromStdString((dir.path() / "gone.zel").string());
-  WriteAll(dir.path() / "kept.zel", kThreeCurves);
+  const QString kept = Written(dir, "kept.zel", kThreeCurves);
   app_->AddToRecentFileList(kept);
-  app_->AddToRecentFileList(gone);  // entry 1, never written
-  QAction* first = nullptr;
-  for (QAction* a : frame().findChildren<QAction*>()) {
-    if (a->data().toInt() == ID_FILE_MRU_FILE1) first = a;
-  }
+  app_->AddToRecentFileList(  // entry 1, never written
+      QString::fromStdString((dir / "gone.zel").string()));
+  QAction* first = FirstRecentFile(frame());
   ASSERT_NE(first, nullptr);
   first->trigger();
   EXPECT_EQ(messages(), std::vector<std::string>{"ERROR! File Not Found!"});
@@ -201,7 +201,7 @@ TEST_F(AppFixture, RecentFileThatNoLongerOpensLeavesTheList) {
   QSettings settings("Local AppWizard-Generated Applications", "ZEL");
   EXPECT_EQ(settings.value("Recent File List/File1").toString(), kept);
   EXPECT_FALSE(settings.contains("Recent File List/File2"));
-  EXPECT_TRUE(frame().mdi_area()->subWindowList().isEmpty());
+  EXPECT_EQ(WindowCount(), 0);
 }
 
 }  // namespace
