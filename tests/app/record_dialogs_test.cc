@@ -211,7 +211,6 @@ TEST_F(RecordDialogsTest, RangeChecksKeepTheDialogOpen) {
     EXPECT_EQ(c.focus->selectedText(), c.focus->text());
     EXPECT_EQ(spectra.result(), QDialog::Rejected);
   }
-  EXPECT_EQ(WindowCount(), 0);
   EXPECT_FALSE(app_->spectrum_follows());
   // Disabled damping edits are checked too.
   EarthDlg fresh(*app_);
@@ -220,7 +219,6 @@ TEST_F(RecordDialogsTest, RangeChecksKeepTheDialogOpen) {
   fresh.accept();
   EXPECT_THAT(messages(),
               ElementsAre("Please enter a number between 0 and 1."));
-  EXPECT_EQ(WindowCount(), 0);
 
   EQ_REC_DLG record(*app_);
   record.SetProgramFolder(folder_);
@@ -231,7 +229,7 @@ TEST_F(RecordDialogsTest, RangeChecksKeepTheDialogOpen) {
   EXPECT_THAT(messages(),
               ElementsAre("Please enter a number between 0 and 100000."));
   EXPECT_EQ(record.focusWidget(), record.chooser().amplitude_scale());
-  EXPECT_EQ(WindowCount(), 0);
+  EXPECT_EQ(WindowCount(), 0);  // nothing closes windows here
 }
 
 TEST_F(RecordDialogsTest, MissingRecordFileKeepsTheDialogOpen) {
@@ -244,7 +242,6 @@ TEST_F(RecordDialogsTest, MissingRecordFileKeepsTheDialogOpen) {
   EXPECT_EQ(record.result(), QDialog::Rejected);
   EXPECT_EQ(app_->record_path(), folder_ + "dbase/Elcent_t.dbs");
   EXPECT_FALSE(app_->spectrum_follows());
-  EXPECT_EQ(WindowCount(), 0);
 
   EarthDlg spectra(*app_);
   spectra.SetProgramFolder(folder_);
@@ -257,7 +254,7 @@ TEST_F(RecordDialogsTest, MissingRecordFileKeepsTheDialogOpen) {
   EXPECT_EQ(app_->record_path(), folder_ + "dbase/Elcent_v.dbs");
   EXPECT_TRUE(app_->spectrum_follows());
   EXPECT_FALSE(app_->tripartite_follows());
-  EXPECT_EQ(WindowCount(), 0);
+  EXPECT_EQ(WindowCount(), 0);  // nothing closes windows here
 }
 
 TEST_F(RecordDialogsTest, ImportTakesTheChosenFile) {
