@@ -31,6 +31,8 @@ const std::vector<CodeEntry>& DesignCodes() {
   return codes;
 }
 
+std::string DisplayText(double value) { return CFormat("%g", value); }
+
 int FindChoiceKey(const ParamDescriptor& param, std::string_view key) {
   for (std::size_t i = 0; i < param.keys.size(); ++i) {
     if (SameIgnoringCase(param.keys[i], key)) return static_cast<int>(i);
@@ -119,8 +121,8 @@ void AppendGridParams(std::vector<ParamDescriptor>& params) {
   constexpr char kGroup[] = "Output Period";
   const PeriodGrid defaults;
   params.push_back(
-      NumberParam("from", "From", CFormat("%g", defaults.from), kGroup));
-  params.push_back(NumberParam("to", "To", CFormat("%g", defaults.to), kGroup));
+      NumberParam("from", "From", DisplayText(defaults.from), kGroup));
+  params.push_back(NumberParam("to", "To", DisplayText(defaults.to), kGroup));
   ParamDescriptor steps =
       NumberParam("steps", "Step", CFormat("%d", defaults.steps), kGroup);
   steps.kind = ParamKind::kInteger;

@@ -83,6 +83,9 @@ bool IsFieldEnabled(const CodeEntry& code, const ParamValues& values,
 bool PrecheckCode(const CodeEntry& code, const ParamValues& values,
                   MessageSink& messages);
 
+// A number as a dialog shows it: "%g" in the C locale.
+std::string DisplayText(double value);
+
 // Reading values as the dialog does: atof of the text (0 when it is not a
 // number, or absent); integers and choice indexes truncated from that.
 std::string TextValue(const ParamValues& values, std::string_view name);

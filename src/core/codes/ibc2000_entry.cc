@@ -5,7 +5,6 @@
 
 #include "core/codes/code_registry.h"
 #include "core/codes/ibc2000.h"
-#include "core/document/c_format.h"
 
 namespace zel {
 
@@ -40,7 +39,7 @@ CodeEntry Ibc2000Entry() {
           "s1",
           "Mapped Spectral Response Acceleration at 1 sec Period(S1):", "0.1"),
       NumberParam("importance", "Importance Factor ( I ) :", "1.0"),
-      NumberParam("r", "Response Modification Coef. (R):", CFormat("%g", d.r)),
+      NumberParam("r", "Response Modification Coef. (R):", DisplayText(d.r)),
       ChoiceParam("site", "Site Class", d.site,
                   {kIbc2000SiteClasses.begin(), kIbc2000SiteClasses.end()},
                   {kIbc2000SiteClasses.begin(), kIbc2000SiteClasses.end()}),

@@ -5,15 +5,12 @@
 
 #include "core/codes/code_registry.h"
 #include "core/codes/kds2019.h"
-#include "core/document/c_format.h"
 
 namespace zel {
 
 namespace {
 
 constexpr char kGroup[] = "Design Spectral Response Acceleration";
-
-std::string G(double value) { return CFormat("%g", value); }
 
 // Fa, Fv, Sds and Sd1 recomputed from the EPA text and the site class and
 // written back as the edit boxes show them.
@@ -22,10 +19,10 @@ void RefreshCoefficients(ParamValues& v) {
   if (!Kds2019Refresh(NumberValue(v, "epa"), IntegerValue(v, "site"), c)) {
     return;
   }
-  v["fa"] = G(c.fa);
-  v["fv"] = G(c.fv);
-  v["sds"] = G(c.sds);
-  v["sd1"] = G(c.sd1);
+  v["fa"] = DisplayText(c.fa);
+  v["fv"] = DisplayText(c.fv);
+  v["sds"] = DisplayText(c.sds);
+  v["sd1"] = DisplayText(c.sd1);
 }
 
 }  // namespace
@@ -41,20 +38,20 @@ CodeEntry Kds2019Entry() {
       ChoiceParam("zone", "Seismic Zone", d.zone,
                   {kKds2019Zones.begin(), kKds2019Zones.end()},
                   {kKds2019Zones.begin(), kKds2019Zones.end()}, kGroup),
-      NumberParam("epa", "EPA(S)", G(d.s), kGroup,
+      NumberParam("epa", "EPA(S)", DisplayText(d.s), kGroup,
                   {kKds2019EpaItems.begin(), kKds2019EpaItems.end()}),
       ChoiceParam("site", "Site Class", d.site,
                   {kKds2019SiteClasses.begin(), kKds2019SiteClasses.end()},
                   {kKds2019SiteClasses.begin(), kKds2019SiteClasses.end()},
                   kGroup),
-      NumberParam("fa", "Fa", G(d.fa), kGroup),
-      NumberParam("fv", "Fv", G(d.fv), kGroup),
-      NumberParam("sds", "Sds", G(d.sds), kGroup),
-      NumberParam("sd1", "Sd1", G(d.sd1), kGroup),
+      NumberParam("fa", "Fa", DisplayText(d.fa), kGroup),
+      NumberParam("fv", "Fv", DisplayText(d.fv), kGroup),
+      NumberParam("sds", "Sds", DisplayText(d.sds), kGroup),
+      NumberParam("sd1", "Sd1", DisplayText(d.sd1), kGroup),
       NumberParam(
-          "importance", "Importance Factor (Ie)", G(d.ie), {},
+          "importance", "Importance Factor (Ie)", DisplayText(d.ie), {},
           {kKds2019ImportanceItems.begin(), kKds2019ImportanceItems.end()}),
-      NumberParam("r", "Response Modification Coef. (R)", G(d.r), {},
+      NumberParam("r", "Response Modification Coef. (R)", DisplayText(d.r), {},
                   {kKds2019RItems.begin(), kKds2019RItems.end()}),
   };
   AppendGridParams(code.params);

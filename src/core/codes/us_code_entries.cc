@@ -7,7 +7,6 @@
 #include "core/codes/code_registry.h"
 #include "core/codes/ubc97_coefficients.h"
 #include "core/codes/us_codes.h"
-#include "core/document/c_format.h"
 
 namespace zel {
 
@@ -21,8 +20,6 @@ ParamDescriptor SoilFactorParam() {
   return ChoiceParam("soil", "Soil Profile Type", 0, Texts(kSoilFactorTexts),
                      {"S1", "S2", "S3"});
 }
-
-std::string G(double value) { return CFormat("%g", value); }
 
 ParamDescriptor UserDefined(ParamDescriptor param) {
   param.switch_name = "option";
@@ -41,9 +38,9 @@ CodeEntry Atc306Entry() {
   code.title = kAtc306Title;
   code.params = {
       SoilFactorParam(),
-      NumberParam("aa", "EPA related coefficient (Aa) :", G(d.aa)),
-      NumberParam("av", "EPV related coefficient (Av) :", G(d.av)),
-      NumberParam("r", "Response Modification Coef. (R):", G(d.r)),
+      NumberParam("aa", "EPA related coefficient (Aa) :", DisplayText(d.aa)),
+      NumberParam("av", "EPV related coefficient (Av) :", DisplayText(d.av)),
+      NumberParam("r", "Response Modification Coef. (R):", DisplayText(d.r)),
   };
   AppendGridParams(code.params);
   code.generate = [](const ParamValues& v, CZELwDoc& doc, MessageSink& m) {
@@ -67,9 +64,10 @@ CodeEntry Ubc88Entry() {
   code.title = kUbc88Title;
   code.params = {
       SoilFactorParam(),
-      NumberParam("z", "Seismic Zone Factor (Z) :", G(d.z)),
-      NumberParam("rw", "Numerical Coefficient (Rw) :", G(d.rw)),
-      NumberParam("importance", "Importance Factor ( I ) :", G(d.importance)),
+      NumberParam("z", "Seismic Zone Factor (Z) :", DisplayText(d.z)),
+      NumberParam("rw", "Numerical Coefficient (Rw) :", DisplayText(d.rw)),
+      NumberParam("importance",
+                  "Importance Factor ( I ) :", DisplayText(d.importance)),
   };
   AppendGridParams(code.params);
   code.generate = [](const ParamValues& v, CZELwDoc& doc, MessageSink& m) {
@@ -109,10 +107,13 @@ CodeEntry Ubc97Entry() {
       NumberParam("distance",
                   "Closest Distance to Known Seismic Source (km)   :", "10.0",
                   kZone4Group),
-      UserDefined(NumberParam("ca", "Seismic Coefficient (Ca) :", G(d.ca))),
-      UserDefined(NumberParam("cv", "Seismic Coefficient (Cv) :", G(d.cv))),
-      NumberParam("r", "Numerical Coefficient (R) :", G(d.r)),
-      NumberParam("importance", "Importance Factor ( I ) :", G(d.importance)),
+      UserDefined(
+          NumberParam("ca", "Seismic Coefficient (Ca) :", DisplayText(d.ca))),
+      UserDefined(
+          NumberParam("cv", "Seismic Coefficient (Cv) :", DisplayText(d.cv))),
+      NumberParam("r", "Numerical Coefficient (R) :", DisplayText(d.r)),
+      NumberParam("importance",
+                  "Importance Factor ( I ) :", DisplayText(d.importance)),
   };
   AppendGridParams(code.params);
   code.enabled = [](const ParamValues& v, std::string_view field) {
