@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 #include <cstddef>
 
+#include "app/dialogs/ok_cancel_buttons.h"
 #include "app/shell/zelw_app.h"
 
 namespace zel::app {
@@ -48,10 +49,7 @@ DesignCodeDialog::DesignCodeDialog(CZELwApp& app, const CodeEntry& code,
     AddField(param, *grid, layout_.row_groups.count(param.group) != 0);
     loose = nullptr;
   }
-  auto* buttons =
-      new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  auto* buttons = OkCancelButtons(this);
   page->addWidget(buttons);
 
   const ParamValues defaults = DefaultValues(code_);

@@ -5,6 +5,8 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
+#include "app/dialogs/ok_cancel_buttons.h"
+
 namespace zel::app {
 
 DLG_TITLE::DLG_TITLE(QWidget* parent)
@@ -15,10 +17,7 @@ DLG_TITLE::DLG_TITLE(QWidget* parent)
   form->addRow(QStringLiteral("Main Title :"), main_title_);
   form->addRow(QStringLiteral("SubTitle :"), sub_title_);
   main_title_->setMinimumWidth(320);
-  auto* buttons =
-      new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  auto* buttons = OkCancelButtons(this);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(group);
   layout->addWidget(buttons);

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <memory>
 
+#include "app/dialogs/ok_cancel_buttons.h"
 #include "app/shell/zelw_app.h"
 #include "core/document/c_format.h"
 #include "core/records/record_catalog.h"
@@ -58,10 +59,7 @@ EarthDlg::EarthDlg(CZELwApp& app, QWidget* parent)
   type_row->addWidget(new QLabel(QStringLiteral("Spectrum type:")));
   type_row->addWidget(type_list_, 1);
 
-  auto* buttons =
-      new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  auto* buttons = OkCancelButtons(this);
 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(chooser_);

@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QVBoxLayout>
 
+#include "app/dialogs/ok_cancel_buttons.h"
 #include "app/shell/zelw_app.h"
 #include "core/records/record_catalog.h"
 #include "core/records/record_choice.h"
@@ -16,10 +17,7 @@ EQ_REC_DLG::EQ_REC_DLG(CZELwApp& app, QWidget* parent)
       chooser_(new RecordChooser(app.ui())),
       program_folder_(ProgramFolder()) {
   setWindowTitle(QStringLiteral("Generate Earthquake Acceleration Record"));
-  auto* buttons =
-      new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  auto* buttons = OkCancelButtons(this);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(chooser_);
   layout->addWidget(buttons);
