@@ -17,15 +17,12 @@ using zel::testing::OpenBytes;
 using zel::testing::ReadAll;
 using zel::testing::TempDir;
 
-struct ReadResult {
-  int result;
-  std::vector<std::string> messages;
-};
+using ReadResult = zel::testing::ReadOutcome;
 
 ReadResult Read(CZELwDoc& doc, const std::string& bytes) {
-  MessageLog log;
-  const int result = ReadDataFile(doc, OpenBytes(bytes), log);
-  return {result, log.texts()};
+  return zel::testing::ReadBytesWith(bytes, [&](std::FILE* f, MessageSink& m) {
+    return ReadDataFile(doc, f, m);
+  });
 }
 
 CZELwDoc DesignSpectrum() {

@@ -7,6 +7,9 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
+
+#include "core/document/messages.h"
 
 namespace zel::testing {
 
@@ -14,6 +17,20 @@ namespace zel::testing {
 inline std::FILE* OpenBytes(const std::string& bytes) {
   if (bytes.empty()) return std::fopen("/dev/null", "r");
   return fmemopen(const_cast<char*>(bytes.data()), bytes.size(), "r");
+}
+
+// What a reader returned and the messages it showed, in order.
+struct ReadOutcome {
+  int result;
+  std::vector<std::string> messages;
+};
+
+// Runs `reader(file, messages)` over a stream of `bytes`.
+template <class Reader>
+ReadOutcome ReadBytesWith(const std::string& bytes, Reader reader) {
+  MessageLog log;
+  const int result = reader(OpenBytes(bytes), log);
+  return {result, log.texts()};
 }
 
 inline std::string ReadAll(const std::filesystem::path& path) {

@@ -45,16 +45,12 @@ inline std::vector<double> Sine(int n, double hz, double dt,
   return values;
 }
 
-// What a reading returned and the messages it showed.
-struct Read {
-  int result;
-  std::vector<std::string> messages;
-};
+using Read = ReadOutcome;
 
 inline Read ReadRecord(CZELwDoc& doc, const std::string& bytes) {
-  MessageLog log;
-  const int result = ReadRecordFile(doc, OpenBytes(bytes), log);
-  return {result, log.texts()};
+  return ReadBytesWith(bytes, [&](std::FILE* f, MessageSink& m) {
+    return ReadRecordFile(doc, f, m);
+  });
 }
 
 // Shows the record `bytes` in `doc` as the record dialog does.
@@ -62,9 +58,9 @@ inline Read ShowRecord(CZELwDoc& doc, const std::string& bytes,
                        double amplitude_scale = 1.0, double time_scale = 1.0,
                        const std::string& name = "Sine") {
   PrepareRecordDocument(doc, amplitude_scale, time_scale, name);
-  MessageLog log;
-  const int result = ShowRecordCurve(doc, OpenBytes(bytes), log);
-  return {result, log.texts()};
+  return ReadBytesWith(bytes, [&](std::FILE* f, MessageSink& m) {
+    return ShowRecordCurve(doc, f, m);
+  });
 }
 
 inline SpectrumSettings Settings(int kind, const std::vector<double>& damping,
