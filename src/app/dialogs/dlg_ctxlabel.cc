@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "app/dialogs/ok_cancel_buttons.h"
-#include "core/document/chart_model.h"
+#include "core/plot/chart_model.h"
 
 namespace zel::app {
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "app/plot/my_graph_display.h"
-#include "core/document/chart_geometry.h"
+#include "core/plot/chart_geometry.h"
 #include "core/document/curve_document.h"
 #include "qcustomplot.h"
 

@@ -5,7 +5,7 @@
 
 #include "app/dialogs/dlg_ctxlabel.h"
 #include "app/shell/command_table.h"
-#include "core/document/chart_geometry.h"
+#include "core/plot/chart_geometry.h"
 
 namespace zel::app {
 

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "core/document/chart_model.h"
+#include "core/plot/chart_model.h"
 #include "core/document/data_store.h"
 
 namespace zel {

@@ -1,12 +1,12 @@
 // The numbers a chart view needs from a curve document: which points can be
 // drawn, the axis ranges that show them, the frame around the plot and where
 // a free label lands. Kept here so that the view only paints.
-#ifndef ZEL_CORE_DOCUMENT_CHART_GEOMETRY_H_
-#define ZEL_CORE_DOCUMENT_CHART_GEOMETRY_H_
+#ifndef ZEL_CORE_PLOT_CHART_GEOMETRY_H_
+#define ZEL_CORE_PLOT_CHART_GEOMETRY_H_
 
 #include <vector>
 
-#include "core/document/chart_model.h"
+#include "core/plot/chart_model.h"
 #include "core/document/curve_document.h"
 
 namespace zel {
@@ -59,4 +59,4 @@ PercentPoint PercentOfClientArea(int x, int y, int width, int height);
 
 }  // namespace zel
 
-#endif  // ZEL_CORE_DOCUMENT_CHART_GEOMETRY_H_
+#endif  // ZEL_CORE_PLOT_CHART_GEOMETRY_H_

@@ -1,8 +1,8 @@
 // What a chart shows besides its curve values: title lines, axis titles,
 // legend, free labels and the styles of the curves. Plain data, so that a view
 // can draw a document from the document alone.
-#ifndef ZEL_CORE_DOCUMENT_CHART_MODEL_H_
-#define ZEL_CORE_DOCUMENT_CHART_MODEL_H_
+#ifndef ZEL_CORE_PLOT_CHART_MODEL_H_
+#define ZEL_CORE_PLOT_CHART_MODEL_H_
 
 #include <array>
 #include <string>
@@ -73,4 +73,4 @@ struct ChartModel {
 
 }  // namespace zel
 
-#endif  // ZEL_CORE_DOCUMENT_CHART_MODEL_H_
+#endif  // ZEL_CORE_PLOT_CHART_MODEL_H_

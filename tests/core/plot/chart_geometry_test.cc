@@ -1,4 +1,4 @@
-#include "core/document/chart_geometry.h"
+#include "core/plot/chart_geometry.h"
 
 #include <gtest/gtest.h>
 
