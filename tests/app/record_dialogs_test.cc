@@ -45,6 +45,7 @@ class RecordDialogsTest : public AppFixture {
     zel::testing::WriteAll(record_path_,
                            zel::testing::RecordText(times_, values_));
     folder_ = (dir_ / "").string();
+    app_->SetProgramFolder(folder_);
   }
 
   // Answers the next modal dialog with `fill`, then presses OK.
@@ -52,7 +53,6 @@ class RecordDialogsTest : public AppFixture {
   void AnswerWith(std::function<void(Dialog&)> fill) {
     answer_ = [this, fill](QDialog& d) {
       auto& dialog = dynamic_cast<Dialog&>(d);
-      dialog.SetProgramFolder(folder_);
       if (fill) fill(dialog);
       dialog.accept();
       return dialog.result();
@@ -161,7 +161,6 @@ TEST_F(RecordDialogsTest, TypeListLogBoxAndAdd) {
 
 TEST_F(RecordDialogsTest, RangeChecksKeepTheDialogOpen) {
   EarthDlg spectra(*app_);
-  spectra.SetProgramFolder(folder_);
   struct Case {
     std::function<void()> edit;
     NumberEdit* focus;
@@ -211,7 +210,7 @@ TEST_F(RecordDialogsTest, RangeChecksKeepTheDialogOpen) {
     EXPECT_EQ(c.focus->selectedText(), c.focus->text());
     EXPECT_EQ(spectra.result(), QDialog::Rejected);
   }
-  EXPECT_FALSE(app_->spectrum_follows());
+  EXPECT_FALSE(app_->follow_up().spectrum_follows);
   // Disabled damping edits are checked too.
   EarthDlg fresh(*app_);
   messages_->Clear();
@@ -221,7 +220,6 @@ TEST_F(RecordDialogsTest, RangeChecksKeepTheDialogOpen) {
               ElementsAre("Please enter a number between 0 and 1."));
 
   EQ_REC_DLG record(*app_);
-  record.SetProgramFolder(folder_);
   messages_->Clear();
   record.chooser().amplitude_scale()->setText("100001");
   record.chooser().time_scale()->setText("-7");  // never checked
@@ -234,26 +232,24 @@ TEST_F(RecordDialogsTest, RangeChecksKeepTheDialogOpen) {
 
 TEST_F(RecordDialogsTest, MissingRecordFileKeepsTheDialogOpen) {
   EQ_REC_DLG record(*app_);
-  record.SetProgramFolder(folder_);
   record.chooser().record_list()->setCurrentIndex(1);  // no file for it
-  app_->SetSpectrumFollows(true);
+  app_->follow_up().spectrum_follows = true;
   record.accept();
   EXPECT_THAT(messages(), ElementsAre("ERROR! File Not Found!"));
   EXPECT_EQ(record.result(), QDialog::Rejected);
-  EXPECT_EQ(app_->record_path(), folder_ + "dbase/Elcent_t.dbs");
-  EXPECT_FALSE(app_->spectrum_follows());
+  EXPECT_EQ(app_->follow_up().record_path, folder_ + "dbase/Elcent_t.dbs");
+  EXPECT_FALSE(app_->follow_up().spectrum_follows);
 
   EarthDlg spectra(*app_);
-  spectra.SetProgramFolder(folder_);
   spectra.chooser().record_list()->setCurrentIndex(2);
   spectra.type_list()->setCurrentIndex(kCombinedDVA);
   messages_->Clear();
   spectra.accept();
   EXPECT_THAT(messages(), ElementsAre("ERROR! File Not Found!"));
   EXPECT_EQ(spectra.result(), QDialog::Rejected);
-  EXPECT_EQ(app_->record_path(), folder_ + "dbase/Elcent_v.dbs");
-  EXPECT_TRUE(app_->spectrum_follows());
-  EXPECT_FALSE(app_->tripartite_follows());
+  EXPECT_EQ(app_->follow_up().record_path, folder_ + "dbase/Elcent_v.dbs");
+  EXPECT_TRUE(app_->follow_up().spectrum_follows);
+  EXPECT_FALSE(app_->follow_up().tripartite_follows);
   EXPECT_EQ(WindowCount(), 0);  // nothing closes windows here
 }
 
@@ -282,7 +278,7 @@ TEST_F(RecordDialogsTest, ImportTakesTheChosenFile) {
   EXPECT_EQ(open_filters_, QStringList({"ZEL dbase file *.dbs|*.dbs||",
                                         "ZEL dbase file *.dbs|*.dbs||"}));
   ASSERT_EQ(WindowCount(), 1);
-  EXPECT_EQ(app_->record_path(), user);
+  EXPECT_EQ(app_->follow_up().record_path, user);
   EXPECT_EQ(child()->GetDocument().subtitle, "User EQ : kobe_ns.dbs");
   EXPECT_EQ(ContextLabel(child()->GetDocument()),
             "Max =   0.5000(g) at  0.010 sec");
@@ -302,7 +298,7 @@ TEST_F(RecordDialogsTest, ImportTakesTheChosenFile) {
 TEST_F(RecordDialogsTest, RecordDocumentFromTheMenu) {
   EXPECT_TRUE(frame().CommandAction(ID_GENERATE_EQ_RECORD)->isEnabled());
   EXPECT_TRUE(frame().CommandAction(ID_GENERATE_RESPONSE_SPECTRA)->isEnabled());
-  app_->SetSpectrumFollows(true);
+  app_->follow_up().spectrum_follows = true;
   AnswerWith<EQ_REC_DLG>(
       [](EQ_REC_DLG& d) { d.chooser().amplitude_scale()->setText("2"); });
   frame().OnCommand(ID_GENERATE_EQ_RECORD);
@@ -310,8 +306,8 @@ TEST_F(RecordDialogsTest, RecordDocumentFromTheMenu) {
             QStringList({"Generate Earthquake Acceleration Record"}));
   EXPECT_TRUE(messages().empty());
   ASSERT_EQ(WindowCount(), 1);
-  EXPECT_FALSE(app_->spectrum_follows());
-  EXPECT_EQ(app_->record_path(), record_path_);
+  EXPECT_FALSE(app_->follow_up().spectrum_follows);
+  EXPECT_EQ(app_->follow_up().record_path, record_path_);
   EXPECT_EQ(app_->new_document_mode(), 0);
 
   const CZELwDoc& doc = child()->GetDocument();
@@ -365,15 +361,15 @@ TEST_F(RecordDialogsTest, ResponseSpectraEqualTheCoreComputation) {
         EXPECT_EQ(p.bar().minimum(), 0);
         EXPECT_EQ(p.bar().maximum(), std::atoi(run.step));
         positions.push_back(p.bar().value());
-        tripartite_while_computing = app_->tripartite_follows();
+        tripartite_while_computing = app_->follow_up().tripartite_follows;
       });
     });
     const int before = WindowCount();
     frame().OnCommand(ID_GENERATE_RESPONSE_SPECTRA);
     EXPECT_TRUE(messages().empty());
     ASSERT_EQ(WindowCount(), before + 1);
-    EXPECT_TRUE(app_->spectrum_follows());
-    EXPECT_FALSE(app_->tripartite_follows());
+    EXPECT_TRUE(app_->follow_up().spectrum_follows);
+    EXPECT_FALSE(app_->follow_up().tripartite_follows);
     EXPECT_EQ(tripartite_while_computing, run.kind == kCombinedDVA);
     EXPECT_EQ(app_->new_document_mode(), 1);
 

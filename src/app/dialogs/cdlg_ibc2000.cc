@@ -11,7 +11,7 @@ DesignDialogLayout Layout() {
 
 }  // namespace
 
-CDLG_IBC2000::CDLG_IBC2000(CZELwApp& app, QWidget* parent)
-    : DesignCodeDialog(app, *FindDesignCode("ibc2000"), Layout(), parent) {}
+CDLG_IBC2000::CDLG_IBC2000(DialogHost& host, QWidget* parent)
+    : DesignCodeDialog(host, *FindDesignCode("ibc2000"), Layout(), parent) {}
 
 }  // namespace zel::app

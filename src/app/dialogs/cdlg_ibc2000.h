@@ -11,7 +11,7 @@ class CDLG_IBC2000 : public DesignCodeDialog {
   Q_OBJECT
 
  public:
-  explicit CDLG_IBC2000(CZELwApp& app, QWidget* parent = nullptr);
+  explicit CDLG_IBC2000(DialogHost& host, QWidget* parent = nullptr);
 };
 
 }  // namespace zel::app

@@ -15,7 +15,6 @@
 #include <cstddef>
 
 #include "app/dialogs/ok_cancel_buttons.h"
-#include "app/shell/zelw_app.h"
 
 namespace zel::app {
 namespace {
@@ -26,10 +25,10 @@ constexpr int kEditWidth = 90;
 
 }  // namespace
 
-DesignCodeDialog::DesignCodeDialog(CZELwApp& app, const CodeEntry& code,
+DesignCodeDialog::DesignCodeDialog(DialogHost& host, const CodeEntry& code,
                                    const DesignDialogLayout& layout,
                                    QWidget* parent)
-    : QDialog(parent), app_(app), code_(code), layout_(layout) {
+    : QDialog(parent), host_(host), code_(code), layout_(layout) {
   setWindowTitle(Q(code.caption));
   auto* page = new QVBoxLayout(this);
   // Consecutive fields outside any group share one grid, so that their
@@ -226,18 +225,18 @@ void DesignCodeDialog::UpdateEnabling(const ParamValues& values) {
 
 void DesignCodeDialog::OnFieldChanged(const std::string& name) {
   ParamValues values = Values();
-  NotifyChanged(code_, values, name, app_.messages());
+  NotifyChanged(code_, values, name, host_.messages());
   ShowValues(values);
   UpdateEnabling(values);
 }
 
 void DesignCodeDialog::accept() {
   const ParamValues values = Values();
-  MessageSink& messages = app_.messages();
+  MessageSink& messages = host_.messages();
   if (!PrecheckCode(code_, values, messages)) return;
   // The document is made before anything is validated; a failed check
   // leaves it open and empty, and this dialog open for another try.
-  CZELwDoc* doc = app_.NewDocument(kNewDocumentDesignSpectrum);
+  CZELwDoc* doc = host_.NewDocument(kNewDocumentDesignSpectrum);
   if (doc == nullptr || !code_.generate) return;
   if (!code_.generate(values, *doc, messages)) return;
   QDialog::accept();

@@ -13,6 +13,7 @@
 #include <set>
 #include <string>
 
+#include "app/dialogs/dialog_host.h"
 #include "core/codes/code_registry.h"
 
 class QButtonGroup;
@@ -23,8 +24,6 @@ class QLabel;
 class QLineEdit;
 
 namespace zel::app {
-
-class CZELwApp;
 
 // What the registry leaves to the dialog: how a code's controls look.
 struct DesignDialogLayout {
@@ -45,7 +44,7 @@ class DesignCodeDialog : public QDialog {
   Q_OBJECT
 
  public:
-  DesignCodeDialog(CZELwApp& app, const CodeEntry& code,
+  DesignCodeDialog(DialogHost& host, const CodeEntry& code,
                    const DesignDialogLayout& layout, QWidget* parent = nullptr);
 
   const CodeEntry& code() const { return code_; }
@@ -78,7 +77,7 @@ class DesignCodeDialog : public QDialog {
   // rewritten texts and the enabling.
   void OnFieldChanged(const std::string& name);
 
-  CZELwApp& app_;
+  DialogHost& host_;
   const CodeEntry& code_;
   DesignDialogLayout layout_;
   std::map<std::string, Field, std::less<>> fields_;

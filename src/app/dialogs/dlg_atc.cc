@@ -11,7 +11,7 @@ DesignDialogLayout Layout() {
 
 }  // namespace
 
-DLG_ATC::DLG_ATC(CZELwApp& app, QWidget* parent)
-    : DesignCodeDialog(app, *FindDesignCode("atc3-06"), Layout(), parent) {}
+DLG_ATC::DLG_ATC(DialogHost& host, QWidget* parent)
+    : DesignCodeDialog(host, *FindDesignCode("atc3-06"), Layout(), parent) {}
 
 }  // namespace zel::app

@@ -11,7 +11,7 @@ class DLG_ATC : public DesignCodeDialog {
   Q_OBJECT
 
  public:
-  explicit DLG_ATC(CZELwApp& app, QWidget* parent = nullptr);
+  explicit DLG_ATC(DialogHost& host, QWidget* parent = nullptr);
 };
 
 }  // namespace zel::app

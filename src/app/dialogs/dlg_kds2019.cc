@@ -11,7 +11,7 @@ DesignDialogLayout Layout() {
 
 }  // namespace
 
-DLG_KDS2019::DLG_KDS2019(CZELwApp& app, QWidget* parent)
-    : DesignCodeDialog(app, *FindDesignCode("kds2019"), Layout(), parent) {}
+DLG_KDS2019::DLG_KDS2019(DialogHost& host, QWidget* parent)
+    : DesignCodeDialog(host, *FindDesignCode("kds2019"), Layout(), parent) {}
 
 }  // namespace zel::app

@@ -11,7 +11,7 @@ class DLG_KDS2019 : public DesignCodeDialog {
   Q_OBJECT
 
  public:
-  explicit DLG_KDS2019(CZELwApp& app, QWidget* parent = nullptr);
+  explicit DLG_KDS2019(DialogHost& host, QWidget* parent = nullptr);
 };
 
 }  // namespace zel::app

@@ -11,7 +11,7 @@ DesignDialogLayout Layout() {
 
 }  // namespace
 
-DLG_UBC::DLG_UBC(CZELwApp& app, QWidget* parent)
-    : DesignCodeDialog(app, *FindDesignCode("ubc88-94"), Layout(), parent) {}
+DLG_UBC::DLG_UBC(DialogHost& host, QWidget* parent)
+    : DesignCodeDialog(host, *FindDesignCode("ubc88-94"), Layout(), parent) {}
 
 }  // namespace zel::app

@@ -11,7 +11,7 @@ class DLG_UBC : public DesignCodeDialog {
   Q_OBJECT
 
  public:
-  explicit DLG_UBC(CZELwApp& app, QWidget* parent = nullptr);
+  explicit DLG_UBC(DialogHost& host, QWidget* parent = nullptr);
 };
 
 }  // namespace zel::app

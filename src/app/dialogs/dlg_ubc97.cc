@@ -13,7 +13,7 @@ DesignDialogLayout Layout() {
 
 }  // namespace
 
-DLG_UBC97::DLG_UBC97(CZELwApp& app, QWidget* parent)
-    : DesignCodeDialog(app, *FindDesignCode("ubc97"), Layout(), parent) {}
+DLG_UBC97::DLG_UBC97(DialogHost& host, QWidget* parent)
+    : DesignCodeDialog(host, *FindDesignCode("ubc97"), Layout(), parent) {}
 
 }  // namespace zel::app

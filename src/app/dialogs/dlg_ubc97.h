@@ -13,7 +13,7 @@ class DLG_UBC97 : public DesignCodeDialog {
   Q_OBJECT
 
  public:
-  explicit DLG_UBC97(CZELwApp& app, QWidget* parent = nullptr);
+  explicit DLG_UBC97(DialogHost& host, QWidget* parent = nullptr);
 };
 
 }  // namespace zel::app

@@ -9,24 +9,22 @@
 #include <memory>
 
 #include "app/dialogs/ok_cancel_buttons.h"
-#include "app/shell/zelw_app.h"
 #include "core/document/c_format.h"
 #include "core/records/record_catalog.h"
 #include "core/records/response_spectrum.h"
 
 namespace zel::app {
 
-EarthDlg::EarthDlg(CZELwApp& app, QWidget* parent)
+EarthDlg::EarthDlg(DialogHost& host, QWidget* parent)
     : QDialog(parent),
-      app_(app),
-      chooser_(new RecordChooser(app.ui())),
+      host_(host),
+      chooser_(new RecordChooser(host)),
       add_(new QPushButton(QStringLiteral("Add"))),
       from_(new NumberEdit),
       to_(new NumberEdit),
       step_(new NumberEdit(/*digits_only=*/true)),
       log_box_(new QCheckBox(QStringLiteral("x-axis log scale"))),
-      type_list_(new QComboBox),
-      program_folder_(ProgramFolder()) {
+      type_list_(new QComboBox) {
   setWindowTitle(
       QStringLiteral("Earthquake Response Spectra Generation Dialog"));
 
@@ -136,7 +134,7 @@ void EarthDlg::OnLogClicked() {
 
 void EarthDlg::OnAdd() {
   if (damping_count_ >= kMaxCurves) {
-    app_.messages().Show("No more damping!");
+    host_.messages().Show("No more damping!");
     return;
   }
   damping_[damping_count_]->setEnabled(true);
@@ -144,7 +142,7 @@ void EarthDlg::OnAdd() {
 }
 
 void EarthDlg::accept() {
-  MessageSink& messages = app_.messages();
+  MessageSink& messages = host_.messages();
   for (const FieldCheck& check : SpectrumFieldChecks()) {
     if (!CheckRange(FieldEdit(check.field), check.range, messages, nullptr)) {
       return;
@@ -152,27 +150,27 @@ void EarthDlg::accept() {
   }
   const SpectrumSettings settings = ReadValues();
 
-  app_.SetSpectrumFollows(true);
-  const std::string path =
-      chooser_->ResolveRecordPath(messages, program_folder_);
-  app_.SetRecordPath(path);
-  if (settings.kind == kCombinedDVA) app_.SetTripartiteFollows(true);
+  FollowUpValues& follow_up = host_.follow_up();
+  follow_up.spectrum_follows = true;
+  const std::string path = chooser_->ResolveRecordPath();
+  follow_up.record_path = path;
+  if (settings.kind == kCombinedDVA) follow_up.tripartite_follows = true;
   std::FILE* file = OpenRecordFile(path, messages);
   if (file == nullptr) {
-    app_.SetTripartiteFollows(false);  // no tripartite chart follows now
+    follow_up.tripartite_follows = false;  // no tripartite chart follows now
     return;
   }
 
-  CZELwDoc* doc = NewRecordDocument(app_, kNewDocumentResponseSpectrum);
+  CZELwDoc* doc = NewRecordDocument(host_, kNewDocumentResponseSpectrum);
   if (doc == nullptr) {
-    app_.SetTripartiteFollows(false);
+    follow_up.tripartite_follows = false;
     std::fclose(file);
     QDialog::accept();
     return;
   }
   PrepareSpectrumDocument(*doc, settings);
   Compute(*doc, file);
-  app_.SetTripartiteFollows(false);
+  follow_up.tripartite_follows = false;
   QDialog::accept();
 }
 
@@ -181,7 +179,7 @@ void EarthDlg::Compute(CZELwDoc& doc, std::FILE* file) {
   // gone when the spectra are complete.
   std::unique_ptr<DLG_ProgressBar> progress;
   ComputeResponseSpectrum(
-      doc, file, app_.messages(), [&](int position, int range) {
+      doc, file, host_.messages(), [&](int position, int range) {
         if (!progress) {
           progress = std::make_unique<DLG_ProgressBar>(this);
           progress->SetRange(0, range);

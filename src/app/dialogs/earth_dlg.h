@@ -18,13 +18,13 @@
 
 namespace zel::app {
 
-class CZELwApp;
+class DialogHost;
 
 class EarthDlg : public QDialog {
   Q_OBJECT
 
  public:
-  explicit EarthDlg(CZELwApp& app, QWidget* parent = nullptr);
+  explicit EarthDlg(DialogHost& host, QWidget* parent = nullptr);
 
   RecordChooser& chooser() { return *chooser_; }
   // Damping edits 0 to 5 (the first to the sixth).
@@ -37,7 +37,6 @@ class EarthDlg : public QDialog {
   QComboBox* type_list() { return type_list_; }
   int damping_count() const { return damping_count_; }
 
-  void SetProgramFolder(const std::string& folder) { program_folder_ = folder; }
   // Called after every move of the progress bar during a computation.
   void SetProgressObserver(std::function<void(const DLG_ProgressBar&)> f) {
     progress_observer_ = std::move(f);
@@ -58,7 +57,7 @@ class EarthDlg : public QDialog {
   SpectrumSettings ReadValues();
   void Compute(CZELwDoc& doc, std::FILE* file);
 
-  CZELwApp& app_;
+  DialogHost& host_;
   RecordChooser* chooser_;
   std::array<NumberEdit*, kMaxCurves> damping_{};
   QPushButton* add_;
@@ -68,7 +67,6 @@ class EarthDlg : public QDialog {
   QCheckBox* log_box_;
   QComboBox* type_list_;
   int damping_count_ = 1;
-  std::string program_folder_;
   std::function<void(const DLG_ProgressBar&)> progress_observer_;
 };
 

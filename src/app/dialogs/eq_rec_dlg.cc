@@ -4,18 +4,14 @@
 #include <QVBoxLayout>
 
 #include "app/dialogs/ok_cancel_buttons.h"
-#include "app/shell/zelw_app.h"
 #include "core/records/record_catalog.h"
 #include "core/records/record_choice.h"
 #include "core/records/record_curve.h"
 
 namespace zel::app {
 
-EQ_REC_DLG::EQ_REC_DLG(CZELwApp& app, QWidget* parent)
-    : QDialog(parent),
-      app_(app),
-      chooser_(new RecordChooser(app.ui())),
-      program_folder_(ProgramFolder()) {
+EQ_REC_DLG::EQ_REC_DLG(DialogHost& host, QWidget* parent)
+    : QDialog(parent), host_(host), chooser_(new RecordChooser(host)) {
   setWindowTitle(QStringLiteral("Generate Earthquake Acceleration Record"));
   auto* buttons = OkCancelButtons(this);
   auto* layout = new QVBoxLayout(this);
@@ -25,7 +21,7 @@ EQ_REC_DLG::EQ_REC_DLG(CZELwApp& app, QWidget* parent)
 }
 
 void EQ_REC_DLG::accept() {
-  MessageSink& messages = app_.messages();
+  MessageSink& messages = host_.messages();
   double amplitude = 0.0;
   if (!CheckRange(chooser_->amplitude_scale(), kRecordAmplitudeRange, messages,
                   &amplitude)) {
@@ -33,14 +29,14 @@ void EQ_REC_DLG::accept() {
   }
   const double time_scale = chooser_->time_scale()->Value();
 
-  app_.SetSpectrumFollows(false);
-  const std::string path =
-      chooser_->ResolveRecordPath(messages, program_folder_);
-  app_.SetRecordPath(path);
+  FollowUpValues& follow_up = host_.follow_up();
+  follow_up.spectrum_follows = false;
+  const std::string path = chooser_->ResolveRecordPath();
+  follow_up.record_path = path;
   std::FILE* file = OpenRecordFile(path, messages);
   if (file == nullptr) return;
 
-  CZELwDoc* doc = NewRecordDocument(app_, kNewDocumentRecord);
+  CZELwDoc* doc = NewRecordDocument(host_, kNewDocumentRecord);
   if (doc == nullptr) {
     std::fclose(file);
     QDialog::accept();

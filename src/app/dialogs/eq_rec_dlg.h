@@ -10,27 +10,23 @@
 
 namespace zel::app {
 
-class CZELwApp;
+class DialogHost;
 
 class EQ_REC_DLG : public QDialog {
   Q_OBJECT
 
  public:
-  explicit EQ_REC_DLG(CZELwApp& app, QWidget* parent = nullptr);
+  explicit EQ_REC_DLG(DialogHost& host, QWidget* parent = nullptr);
 
   RecordChooser& chooser() { return *chooser_; }
-  // The folder whose "dbase/" holds the catalog files; the program's own by
-  // default.
-  void SetProgramFolder(const std::string& folder) { program_folder_ = folder; }
 
   // OK: checks the amplitude scale, reads the record file into a new record
   // document and closes; a missing file keeps the dialog open.
   void accept() override;
 
  private:
-  CZELwApp& app_;
+  DialogHost& host_;
   RecordChooser* chooser_;
-  std::string program_folder_;
 };
 
 }  // namespace zel::app

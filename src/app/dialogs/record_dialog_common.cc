@@ -7,8 +7,6 @@
 #include <QLabel>
 #include <QRegularExpressionValidator>
 
-#include "app/shell/main_frame.h"
-#include "app/shell/zelw_app.h"
 #include "core/document/c_format.h"
 #include "core/records/record_catalog.h"
 #include "core/records/record_choice.h"
@@ -50,9 +48,9 @@ bool CheckRange(NumberEdit* edit, const ValueRange& range,
   return false;
 }
 
-RecordChooser::RecordChooser(Interaction& ui, QWidget* parent)
+RecordChooser::RecordChooser(DialogHost& host, QWidget* parent)
     : QWidget(parent),
-      ui_(ui),
+      host_(host),
       record_list_(new QComboBox),
       caption_box_(new QPlainTextEdit),
       amplitude_scale_(new NumberEdit),
@@ -107,7 +105,7 @@ void RecordChooser::ShowCaption() {
 
 void RecordChooser::OnImport() {
   const QString path =
-      ui_.open_file(this, QString::fromLatin1(kRecordFileFilter));
+      host_.AskOpenFileName(this, QString::fromLatin1(kRecordFileFilter));
   if (path.isEmpty()) return;
   record_path_ = QFile::encodeName(path).toStdString();
   imported_ = true;
@@ -122,11 +120,10 @@ void RecordChooser::OnImport() {
   ShowCaption();
 }
 
-std::string RecordChooser::ResolveRecordPath(
-    MessageSink& messages, const std::string& program_folder) {
+std::string RecordChooser::ResolveRecordPath() {
   if (!imported_) {
     record_path_ = FindCatalogFile(record_list_->currentText().toStdString(),
-                                   messages, program_folder);
+                                   host_.messages(), host_.ProgramFolder());
   }
   return record_path_;
 }
@@ -140,11 +137,9 @@ std::FILE* OpenRecordFile(const std::string& path, MessageSink& messages) {
   return file;
 }
 
-CZELwDoc* NewRecordDocument(CZELwApp& app, int mode) {
-  app.NewDocument(mode);
-  CZELwDoc* doc =
-      app.GetMainFrame() ? app.GetMainFrame()->ActiveDocument() : nullptr;
-  if (doc == nullptr) app.messages().Show("Document Identification failed!");
+CZELwDoc* NewRecordDocument(DialogHost& host, int mode) {
+  CZELwDoc* doc = host.NewDocument(mode);
+  if (doc == nullptr) host.messages().Show("Document Identification failed!");
   return doc;
 }
 

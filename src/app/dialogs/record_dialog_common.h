@@ -13,18 +13,12 @@
 #include <cstdio>
 #include <string>
 
-#include "app/shell/interaction.h"
+#include "app/dialogs/dialog_host.h"
 #include "core/document/curve_document.h"
 #include "core/document/messages.h"
 #include "core/records/range_check.h"
 
 namespace zel::app {
-
-class CZELwApp;
-
-// New-document modes of the record dialogs.
-inline constexpr int kNewDocumentRecord = 0;
-inline constexpr int kNewDocumentResponseSpectrum = 1;
 
 // A numeric edit. Numbers are shown in the C locale ("%g") and read with
 // atof; while the user leaves the text as shown, the value given back is the
@@ -59,7 +53,7 @@ class RecordChooser : public QWidget {
   Q_OBJECT
 
  public:
-  explicit RecordChooser(Interaction& ui, QWidget* parent = nullptr);
+  explicit RecordChooser(DialogHost& host, QWidget* parent = nullptr);
 
   QComboBox* record_list() { return record_list_; }
   QPlainTextEdit* caption_box() { return caption_box_; }
@@ -76,15 +70,14 @@ class RecordChooser : public QWidget {
   // rest of the dialog's life.
   void OnImport();
   // The record file to read: the imported one, or the catalog file of the
-  // selected title in the "dbase/" folder of `program_folder`.
-  std::string ResolveRecordPath(MessageSink& messages,
-                                const std::string& program_folder);
+  // selected title in the program's "dbase/" folder.
+  std::string ResolveRecordPath();
 
  private:
   void OnRecordChanged(int index);
   void ShowCaption();
 
-  Interaction& ui_;
+  DialogHost& host_;
   QComboBox* record_list_;
   QPlainTextEdit* caption_box_;
   NumberEdit* amplitude_scale_;
@@ -100,9 +93,9 @@ class RecordChooser : public QWidget {
 // and returns nullptr when it cannot be opened.
 std::FILE* OpenRecordFile(const std::string& path, MessageSink& messages);
 
-// File New under `mode`, then the active document of the active window;
-// nullptr after "Document Identification failed!".
-CZELwDoc* NewRecordDocument(CZELwApp& app, int mode);
+// File New under `mode`: the new document, or nullptr after "Document
+// Identification failed!".
+CZELwDoc* NewRecordDocument(DialogHost& host, int mode);
 
 }  // namespace zel::app
 

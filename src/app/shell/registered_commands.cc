@@ -3,11 +3,11 @@
 // (and tool bar button) is enabled once it is registered here, with one line
 // such as
 //   registry.Register(ID_DESIGN_UBC97, [](CMainFrame& frame) {
-//     DLG_UBC97 dialog(&frame);
+//     DLG_UBC97 dialog(frame.app(), &frame);
 //     frame.app().RunDialog(dialog);
 //   });
-// On OK the dialog makes its document through the application:
-//   CZELwDoc* doc = frame.app().NewDocument(kNewDocumentDesignSpectrum);
+// On OK the dialog makes its document through its DialogHost:
+//   CZELwDoc* doc = host.NewDocument(kNewDocumentDesignSpectrum);
 // fills it, sets its title and calls doc->UpdateAllViews().
 #include "app/dialogs/cdlg_ibc2000.h"
 #include "app/dialogs/dlg_atc.h"

@@ -8,6 +8,7 @@
 #include "app/shell/command_table.h"
 #include "app/shell/main_frame.h"
 #include "core/document/data_file.h"
+#include "core/records/record_catalog.h"
 
 namespace zel::app {
 namespace {
@@ -42,6 +43,10 @@ CZELwDoc* CZELwApp::NewDocument(int mode) {
   auto doc = std::make_unique<CZELwDoc>();
   doc->SetTitle("ZEL" + std::to_string(++untitled_count_));
   return &main_frame_->AddChild(std::move(doc))->GetDocument();
+}
+
+std::string CZELwApp::ProgramFolder() const {
+  return program_folder_.empty() ? zel::ProgramFolder() : program_folder_;
 }
 
 void CZELwApp::OnFileOpen() {

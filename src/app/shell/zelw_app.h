@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 
+#include "app/dialogs/dialog_host.h"
 #include "app/shell/interaction.h"
 #include "app/shell/recent_files.h"
 #include "core/document/curve_document.h"
@@ -20,11 +21,7 @@ namespace zel::app {
 
 class CMainFrame;
 
-// New-document modes: what the next new document will hold.
-inline constexpr int kNewDocumentDesignSpectrum = 2;
-inline constexpr int kNewDocumentFromFile = 9;
-
-class CZELwApp : public QObject {
+class CZELwApp : public QObject, public DialogHost {
   Q_OBJECT
 
  public:
@@ -37,22 +34,22 @@ class CZELwApp : public QObject {
 
   CMainFrame* GetMainFrame() { return main_frame_.get(); }
   Interaction& ui() { return ui_; }
-  MessageSink& messages() { return *ui_.messages; }
+  MessageSink& messages() override { return *ui_.messages; }
   // Runs a modal dialog through the replaceable dialog runner.
   int RunDialog(QDialog& dialog) { return ui_.run_dialog(dialog); }
 
   // File New: sets the new-document mode, makes an empty document in a new
   // child window and makes it active. Returns the new document.
-  CZELwDoc* NewDocument(int mode);
+  CZELwDoc* NewDocument(int mode) override;
   int new_document_mode() const { return new_document_mode_; }
 
-  // Follow-up values left by the record dialogs for the next new document.
-  void SetSpectrumFollows(bool on) { spectrum_follows_ = on; }
-  bool spectrum_follows() const { return spectrum_follows_; }
-  void SetTripartiteFollows(bool on) { tripartite_follows_ = on; }
-  bool tripartite_follows() const { return tripartite_follows_; }
-  void SetRecordPath(const std::string& path) { record_path_ = path; }
-  const std::string& record_path() const { return record_path_; }
+  QString AskOpenFileName(QWidget* parent, const QString& filter) override {
+    return ui_.open_file(parent, filter);
+  }
+  // The program's own folder unless another was set (tests use their own).
+  std::string ProgramFolder() const override;
+  void SetProgramFolder(const std::string& folder) { program_folder_ = folder; }
+  FollowUpValues& follow_up() override { return follow_up_; }
 
   // File Open: asks for a file, makes a new document and reads the file
   // into it. A document that failed to read stays open.
@@ -77,9 +74,8 @@ class CZELwApp : public QObject {
   std::unique_ptr<CMainFrame> main_frame_;
   int new_document_mode_ = 0;
   int untitled_count_ = 0;
-  bool spectrum_follows_ = false;
-  bool tripartite_follows_ = false;
-  std::string record_path_;
+  std::string program_folder_;
+  FollowUpValues follow_up_;
 };
 
 }  // namespace zel::app
