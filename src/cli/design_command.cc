@@ -5,11 +5,13 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "cli/number_text.h"
 #include "cli/output_file.h"
 #include "cli/stderr_messages.h"
 #include "core/codes/code_registry.h"
+#include "core/codes/field_table.h"
 #include "core/document/c_format.h"
 #include "core/document/curve_document.h"
 
@@ -68,6 +70,28 @@ std::string ControlText(const ParamDescriptor& param, const std::string& text) {
         Fail("--" + param.name + ": '" + text + "' is not a number");
       }
       return text;
+    case ParamKind::kCheck:
+      return text;  // a flag: "1" when given
+    case ParamKind::kList: {
+      // As inserted one by one in the dialog's list.
+      std::vector<double> values;
+      std::size_t start = 0;
+      while (true) {
+        const std::size_t comma = text.find(',', start);
+        const std::string item = text.substr(start, comma - start);
+        if (!IsNumberText(item)) {
+          Fail("--" + param.name + ": '" + item + "' is not a number");
+        }
+        values.push_back(AtoF(item));
+        if (comma == std::string::npos) break;
+        start = comma + 1;
+      }
+      if (static_cast<int>(values.size()) > param.capacity) {
+        Fail("--" + param.name + ": at most " + std::to_string(param.capacity) +
+             " values");
+      }
+      return JoinListText(values);
+    }
     case ParamKind::kInteger:
       if (!IsIntegerText(text)) {
         Fail("--" + param.name + ": '" + text + "' is not a whole number");
@@ -87,7 +111,7 @@ std::string ControlText(const ParamDescriptor& param, const std::string& text) {
 void Enter(const CodeEntry& code, ParamValues& values,
            const ParamDescriptor& param, const std::string& text,
            MessageSink& messages) {
-  if (!IsFieldEnabled(code, values, param.name)) {
+  if (GetFieldState(code, values, param.name) != FieldState::kEnabled) {
     Fail("--" + param.name + " cannot be used with these settings ('" +
          Caption(param) + "' is disabled)");
   }
@@ -136,9 +160,10 @@ void RunDesign(const DesignRequest& request) {
 
 std::string OptionHelp(const ParamDescriptor& param,
                        const std::string& default_text) {
-  const std::string caption = param.group.empty()
-                                  ? Caption(param)
-                                  : param.group + " / " + Caption(param);
+  // A nested group ("Outer/Inner") is named by its own caption.
+  const std::string group = param.group.substr(param.group.rfind('/') + 1);
+  const std::string caption =
+      group.empty() ? Caption(param) : group + " / " + Caption(param);
   if (param.kind == ParamKind::kChoice) {
     const int index = TruncateToInt(AtoF(default_text));
     const std::string chosen =
@@ -154,6 +179,10 @@ const char* TypeName(const ParamDescriptor& param) {
   switch (param.kind) {
     case ParamKind::kNumber:
       return "NUMBER";
+    case ParamKind::kCheck:
+      return "";
+    case ParamKind::kList:
+      return "NUMBER,...";
     case ParamKind::kInteger:
       return "INT";
     case ParamKind::kChoice:
@@ -186,8 +215,17 @@ void AddDesignCommand(CLI::App& app) {
     request->command = command;
     const ParamValues defaults = DefaultValues(code);
     for (const ParamDescriptor& param : code.params) {
+      std::string& text = request->texts[param.name];
+      if (param.kind == ParamKind::kCheck) {
+        text = "1";  // what a given flag enters
+        const bool on = IntegerText(defaults.at(param.name)) != 0;
+        command->add_flag("--" + param.name)
+            ->description(param.label +
+                          (on ? " (default on)" : " (default off)"));
+        continue;
+      }
       command
-          ->add_option("--" + param.name, request->texts[param.name],
+          ->add_option("--" + param.name, text,
                        OptionHelp(param, defaults.at(param.name)))
           ->type_name(TypeName(param));
     }

@@ -1,5 +1,4 @@
-// CDLG_IBC2000: the IBC2000(ASCE7-98) design spectrum dialog, with site
-// class and seismic design category as radio buttons.
+// CDLG_IBC2000: the IBC2000(ASCE7-98) design spectrum dialog.
 #ifndef ZEL_APP_DIALOGS_CDLG_IBC2000_H_
 #define ZEL_APP_DIALOGS_CDLG_IBC2000_H_
 
@@ -11,7 +10,8 @@ class CDLG_IBC2000 : public DesignCodeDialog {
   Q_OBJECT
 
  public:
-  explicit CDLG_IBC2000(DialogHost& host, QWidget* parent = nullptr);
+  explicit CDLG_IBC2000(DialogHost& host, QWidget* parent = nullptr)
+      : DesignCodeDialog(host, *FindDesignCode("ibc2000"), parent) {}
 };
 
 }  // namespace zel::app

@@ -1,6 +1,7 @@
 #include "app/dialogs/design_code_dialog.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -8,13 +9,16 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPalette>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 #include <cstddef>
 
 #include "app/dialogs/ok_cancel_buttons.h"
+#include "core/codes/field_table.h"
 
 namespace zel::app {
 namespace {
@@ -22,13 +26,14 @@ namespace {
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
 constexpr int kEditWidth = 90;
+// The period grid's fields stand side by side in one row.
+constexpr char kRowGroup[] = "Output Period";
 
 }  // namespace
 
 DesignCodeDialog::DesignCodeDialog(DialogHost& host, const CodeEntry& code,
-                                   const DesignDialogLayout& layout,
                                    QWidget* parent)
-    : QDialog(parent), host_(host), code_(code), layout_(layout) {
+    : QDialog(parent), host_(host), code_(code) {
   setWindowTitle(Q(code.caption));
   auto* page = new QVBoxLayout(this);
   // Consecutive fields outside any group share one grid, so that their
@@ -45,7 +50,7 @@ DesignCodeDialog::DesignCodeDialog(DialogHost& host, const CodeEntry& code,
     }
     QGridLayout* grid = nullptr;
     if (QWidget* box = AddGroup(param.group, grid)) page->addWidget(box);
-    AddField(param, *grid, layout_.row_groups.count(param.group) != 0);
+    AddField(param, *grid, param.group == kRowGroup);
     loose = nullptr;
   }
   auto* buttons = OkCancelButtons(this);
@@ -53,24 +58,25 @@ DesignCodeDialog::DesignCodeDialog(DialogHost& host, const CodeEntry& code,
 
   const ParamValues defaults = DefaultValues(code_);
   ShowValues(defaults);
-  UpdateEnabling(defaults);
+  UpdateStates(defaults);
 }
 
 // Returns the group's box when it is new and belongs on the page; a nested
-// group's box goes into its enclosing group, made first if need be.
-QWidget* DesignCodeDialog::AddGroup(const std::string& name,
+// group ("Outer/Inner") goes into its enclosing group, made first if need
+// be.
+QWidget* DesignCodeDialog::AddGroup(const std::string& path,
                                     QGridLayout*& grid) {
-  if (const auto it = groups_.find(name); it != groups_.end()) {
+  if (const auto it = groups_.find(path); it != groups_.end()) {
     grid = it->second;
     return nullptr;
   }
-  auto* box = new QGroupBox(Q(name));
+  const std::size_t slash = path.rfind('/');
+  auto* box = new QGroupBox(Q(path.substr(slash + 1)));
   grid = new QGridLayout(box);
-  groups_[name] = grid;
-  const auto outer = layout_.nested_groups.find(name);
-  if (outer == layout_.nested_groups.end()) return box;
+  groups_[path] = grid;
+  if (slash == std::string::npos) return box;
   QGridLayout* outer_grid = nullptr;
-  QWidget* outer_box = AddGroup(outer->second, outer_grid);
+  QWidget* outer_box = AddGroup(path.substr(0, slash), outer_grid);
   outer_grid->addWidget(box, next_slot_[outer_grid]++, 0, 1, -1);
   return outer_box;
 }
@@ -86,7 +92,15 @@ void DesignCodeDialog::AddField(const ParamDescriptor& param, QGridLayout& grid,
   const int row = in_row ? 0 : slot;
   const int column = in_row ? 3 * slot : 0;
 
-  if (param.kind == ParamKind::kChoice && layout_.radios.count(param.name)) {
+  if (param.kind == ParamKind::kCheck) {
+    field.check = new QCheckBox(Q(param.label));
+    field.check->setObjectName(name);
+    connect(field.check, &QCheckBox::clicked, this,
+            [this, n = param.name] { OnFieldChanged(n); });
+    grid.addWidget(field.check, row, column, 1, -1);
+    return;
+  }
+  if (param.kind == ParamKind::kChoice && param.radio) {
     field.radio_box = new QGroupBox(Q(param.label));
     field.radio_box->setObjectName(name);
     field.radios = new QButtonGroup(this);
@@ -105,6 +119,10 @@ void DesignCodeDialog::AddField(const ParamDescriptor& param, QGridLayout& grid,
   }
 
   field.label = new QLabel(Q(param.label));
+  if (param.kind == ParamKind::kList) {
+    AddListField(field, grid, row);
+    return;
+  }
   QWidget* control = nullptr;
   if (param.kind == ParamKind::kChoice || !param.items.empty()) {
     field.combo = new QComboBox;
@@ -136,16 +154,62 @@ void DesignCodeDialog::AddField(const ParamDescriptor& param, QGridLayout& grid,
   field.label->setBuddy(control);
   grid.addWidget(field.label, row, column);
   grid.addWidget(control, row, column + 1);
-  if (const auto unit = layout_.units.find(param.name);
-      unit != layout_.units.end()) {
-    field.unit = new QLabel(Q(unit->second));
+  if (!param.unit.empty()) {
+    field.unit = new QLabel(Q(param.unit));
     grid.addWidget(field.unit, row, column + 2);
   }
+}
+
+// The number edit and the Insert button on one row, the list below them.
+void DesignCodeDialog::AddListField(Field& field, QGridLayout& grid, int row) {
+  const QString name = Q(field.param->name);
+  field.edit = new QLineEdit;
+  field.edit->setObjectName(name + QStringLiteral("_edit"));
+  field.edit->setMinimumWidth(kEditWidth);
+  field.insert = new QPushButton(QStringLiteral("Insert"));
+  field.insert->setObjectName(name + QStringLiteral("_insert"));
+  field.list = new QListWidget;
+  field.list->setObjectName(name);
+  field.list->setMaximumHeight(field.list->fontMetrics().lineSpacing() *
+                                   (field.param->capacity + 1) +
+                               8);
+  field.label->setBuddy(field.edit);
+  auto* line = new QHBoxLayout;
+  line->addWidget(field.edit);
+  line->addWidget(field.insert);
+  grid.addWidget(field.label, row, 0);
+  grid.addLayout(line, row, 1);
+  grid.addWidget(field.list, row + 1, 1);
+  next_slot_[&grid]++;
+  connect(field.insert, &QPushButton::clicked, this,
+          [this, &field] { OnInsert(field); });
+}
+
+void DesignCodeDialog::OnInsert(Field& field) {
+  const std::string typed = field.edit->text().trimmed().toStdString();
+  if (typed.empty()) return;
+  if (field.list->count() >= field.param->capacity) {
+    host_.messages().Show(field.param->full_message);
+    return;
+  }
+  field.list->addItem(Q(DisplayText(AtoF(typed))));
+  field.edit->clear();
+  OnFieldChanged(field.param->name);
 }
 
 QString DesignCodeDialog::FieldText(const Field& field) const {
   if (field.radios != nullptr) {
     return QString::number(field.radios->checkedId());
+  }
+  if (field.check != nullptr) {
+    return field.check->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
+  }
+  if (field.list != nullptr) {
+    QStringList items;
+    for (int i = 0; i < field.list->count(); ++i) {
+      items << field.list->item(i)->text();
+    }
+    return items.join(QLatin1Char(','));
   }
   if (field.edit != nullptr) return field.edit->text();
   return QString::number(field.combo->currentIndex());
@@ -165,8 +229,15 @@ void DesignCodeDialog::ShowValues(const ParamValues& values) {
     if (it == values.end()) continue;
     const QString text = Q(it->second);
     if (FieldText(field) == text) continue;  // keeps the cursor while typing
-    if (field.param->kind == ParamKind::kChoice) {
-      const int index = IntegerValue(values, name);
+    if (field.check != nullptr) {
+      field.check->setChecked(IntegerText(it->second) != 0);
+    } else if (field.list != nullptr) {
+      field.list->clear();
+      for (const double value : SplitListText(it->second)) {
+        field.list->addItem(Q(DisplayText(value)));
+      }
+    } else if (field.param->kind == ParamKind::kChoice) {
+      const int index = IntegerText(it->second);
       if (field.radios != nullptr) {
         if (QAbstractButton* radio = field.radios->button(index)) {
           radio->setChecked(true);
@@ -187,39 +258,43 @@ void DesignCodeDialog::ShowValues(const ParamValues& values) {
   }
 }
 
-void DesignCodeDialog::UpdateEnabling(const ParamValues& values) {
+void DesignCodeDialog::UpdateStates(const ParamValues& values) {
   // A group box is greyed, caption and all, once none of its fields (nor
   // those of the groups inside it) can be edited.
   std::map<std::string, bool> group_on;
-  for (const auto& [name, field] : fields_) {
-    const bool on = IsFieldEnabled(code_, values, name);
+  for (auto& [name, field] : fields_) {
+    const FieldState state = GetFieldState(code_, values, name);
+    const bool on = state == FieldState::kEnabled;
     for (std::string g = field.param->group; !g.empty();) {
       group_on[g] = group_on[g] || on;
-      const auto outer = layout_.nested_groups.find(g);
-      g = outer == layout_.nested_groups.end() ? std::string() : outer->second;
+      const std::size_t slash = g.rfind('/');
+      g = slash == std::string::npos ? std::string() : g.substr(0, slash);
     }
-  }
-  for (const auto& [group, on] : group_on) {
-    groups_.at(group)->parentWidget()->setEnabled(on);
-  }
-  for (auto& [name, field] : fields_) {
-    const bool on = IsFieldEnabled(code_, values, name);
-    if (layout_.read_only_when_locked.count(name) && field.edit != nullptr) {
-      field.edit->setReadOnly(!on);
+    const bool read_only = state == FieldState::kReadOnly;
+    if (field.edit != nullptr && field.list == nullptr) {
+      field.edit->setReadOnly(read_only);
       // Grey like the dialog, so that a locked value reads as computed.
       QPalette colours = palette();
-      if (!on)
+      if (read_only) {
         colours.setColor(QPalette::Base, colours.color(QPalette::Window));
+      }
       field.edit->setPalette(colours);
-      continue;
     }
     for (QWidget* widget :
          {static_cast<QWidget*>(field.label),
           static_cast<QWidget*>(field.combo), static_cast<QWidget*>(field.edit),
           static_cast<QWidget*>(field.radio_box),
+          static_cast<QWidget*>(field.check), static_cast<QWidget*>(field.list),
+          static_cast<QWidget*>(field.insert),
           static_cast<QWidget*>(field.unit)}) {
-      if (widget != nullptr) widget->setEnabled(on);
+      if (widget == nullptr) continue;
+      widget->setVisible(state != FieldState::kHidden);
+      // A read-only drop-down cannot be picked from either.
+      widget->setEnabled(on || (read_only && widget != field.combo));
     }
+  }
+  for (const auto& [group, on] : group_on) {
+    groups_.at(group)->parentWidget()->setEnabled(on);
   }
 }
 
@@ -227,7 +302,7 @@ void DesignCodeDialog::OnFieldChanged(const std::string& name) {
   ParamValues values = Values();
   NotifyChanged(code_, values, name, host_.messages());
   ShowValues(values);
-  UpdateEnabling(values);
+  UpdateStates(values);
 }
 
 void DesignCodeDialog::accept() {

@@ -1,5 +1,4 @@
-// DLG_ATC: the ATC 3-06 design spectrum dialog, with the soil profile as
-// radio buttons.
+// DLG_ATC: the ATC 3-06 design spectrum dialog.
 #ifndef ZEL_APP_DIALOGS_DLG_ATC_H_
 #define ZEL_APP_DIALOGS_DLG_ATC_H_
 
@@ -11,7 +10,8 @@ class DLG_ATC : public DesignCodeDialog {
   Q_OBJECT
 
  public:
-  explicit DLG_ATC(DialogHost& host, QWidget* parent = nullptr);
+  explicit DLG_ATC(DialogHost& host, QWidget* parent = nullptr)
+      : DesignCodeDialog(host, *FindDesignCode("atc3-06"), parent) {}
 };
 
 }  // namespace zel::app

@@ -1,5 +1,4 @@
-// DLG_UBC: the UBC 88-94 design spectrum dialog, with the soil profile as
-// radio buttons.
+// DLG_UBC: the UBC 88-94 design spectrum dialog.
 #ifndef ZEL_APP_DIALOGS_DLG_UBC_H_
 #define ZEL_APP_DIALOGS_DLG_UBC_H_
 
@@ -11,7 +10,8 @@ class DLG_UBC : public DesignCodeDialog {
   Q_OBJECT
 
  public:
-  explicit DLG_UBC(DialogHost& host, QWidget* parent = nullptr);
+  explicit DLG_UBC(DialogHost& host, QWidget* parent = nullptr)
+      : DesignCodeDialog(host, *FindDesignCode("ubc88-94"), parent) {}
 };
 
 }  // namespace zel::app

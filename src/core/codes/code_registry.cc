@@ -52,6 +52,7 @@ ParamValues DefaultValues(const CodeEntry& code) {
   for (const ParamDescriptor& param : code.params) {
     values[param.name] = param.default_text;
   }
+  if (code.on_open) code.on_open(values);
   return values;
 }
 
@@ -67,9 +68,9 @@ bool NotifyChanged(const CodeEntry& code, ParamValues& values,
   return !code.on_change || code.on_change(values, field, messages);
 }
 
-bool IsFieldEnabled(const CodeEntry& code, const ParamValues& values,
-                    std::string_view field) {
-  return !code.enabled || code.enabled(values, field);
+FieldState GetFieldState(const CodeEntry& code, const ParamValues& values,
+                         std::string_view field) {
+  return code.state ? code.state(values, field) : FieldState::kEnabled;
 }
 
 bool PrecheckCode(const CodeEntry& code, const ParamValues& values,
@@ -77,61 +78,8 @@ bool PrecheckCode(const CodeEntry& code, const ParamValues& values,
   return !code.precheck || code.precheck(values, messages);
 }
 
-std::string TextValue(const ParamValues& values, std::string_view name) {
-  const auto it = values.find(name);
-  return it == values.end() ? std::string() : it->second;
-}
-
-double NumberValue(const ParamValues& values, std::string_view name) {
-  return AtoF(TextValue(values, name));
-}
-
-int IntegerValue(const ParamValues& values, std::string_view name) {
-  return TruncateToInt(NumberValue(values, name));
-}
-
-ParamDescriptor NumberParam(std::string name, std::string label,
-                            std::string default_text, std::string group,
-                            std::vector<std::string> drop_down) {
-  ParamDescriptor param;
-  param.name = std::move(name);
-  param.label = std::move(label);
-  param.kind = ParamKind::kNumber;
-  param.default_text = std::move(default_text);
-  param.items = std::move(drop_down);
-  param.group = std::move(group);
-  return param;
-}
-
-ParamDescriptor ChoiceParam(std::string name, std::string label,
-                            int default_index, std::vector<std::string> items,
-                            std::vector<std::string> keys, std::string group) {
-  ParamDescriptor param;
-  param.name = std::move(name);
-  param.label = std::move(label);
-  param.kind = ParamKind::kChoice;
-  param.default_text = CFormat("%d", default_index);
-  param.items = std::move(items);
-  param.keys = std::move(keys);
-  param.group = std::move(group);
-  return param;
-}
-
-void AppendGridParams(std::vector<ParamDescriptor>& params) {
-  constexpr char kGroup[] = "Output Period";
-  const PeriodGrid defaults;
-  params.push_back(
-      NumberParam("from", "From", DisplayText(defaults.from), kGroup));
-  params.push_back(NumberParam("to", "To", DisplayText(defaults.to), kGroup));
-  ParamDescriptor steps =
-      NumberParam("steps", "Step", CFormat("%d", defaults.steps), kGroup);
-  steps.kind = ParamKind::kInteger;
-  params.push_back(std::move(steps));
-}
-
-PeriodGrid GridFromValues(const ParamValues& values) {
-  return {NumberValue(values, "from"), NumberValue(values, "to"),
-          IntegerValue(values, "steps")};
+int IntegerText(std::string_view text) {
+  return TruncateToInt(AtoF(std::string(text)));
 }
 
 }  // namespace zel

@@ -3,85 +3,67 @@
 #include <string>
 #include <vector>
 
-#include "core/codes/code_registry.h"
+#include "core/codes/field_table.h"
 #include "core/codes/kds2019.h"
 
 namespace zel {
 
 namespace {
 
-constexpr char kGroup[] = "Design Spectral Response Acceleration";
-
-// Fa, Fv, Sds and Sd1 recomputed from the EPA text and the site class and
-// written back as the edit boxes show them.
-void RefreshCoefficients(ParamValues& v) {
-  Kds2019Coefficients c;
-  if (!Kds2019Refresh(NumberValue(v, "epa"), IntegerValue(v, "site"), c)) {
-    return;
-  }
-  v["fa"] = DisplayText(c.fa);
-  v["fv"] = DisplayText(c.fv);
-  v["sds"] = DisplayText(c.sds);
-  v["sd1"] = DisplayText(c.sd1);
+template <std::size_t N>
+std::vector<std::string> Texts(const std::array<const char*, N>& texts) {
+  return {texts.begin(), texts.end()};
 }
 
 }  // namespace
 
 CodeEntry Kds2019Entry() {
-  const Kds2019Params d;
-  CodeEntry code;
-  code.id = "kds2019";
-  code.menu_text = kKds2019Title;
-  code.caption = kKds2019Title;
-  code.title = kKds2019Title;
-  code.params = {
-      ChoiceParam("zone", "Seismic Zone", d.zone,
-                  {kKds2019Zones.begin(), kKds2019Zones.end()},
-                  {kKds2019Zones.begin(), kKds2019Zones.end()}, kGroup),
-      NumberParam("epa", "EPA(S)", DisplayText(d.s), kGroup,
-                  {kKds2019EpaItems.begin(), kKds2019EpaItems.end()}),
-      ChoiceParam("site", "Site Class", d.site,
-                  {kKds2019SiteClasses.begin(), kKds2019SiteClasses.end()},
-                  {kKds2019SiteClasses.begin(), kKds2019SiteClasses.end()},
-                  kGroup),
-      NumberParam("fa", "Fa", DisplayText(d.fa), kGroup),
-      NumberParam("fv", "Fv", DisplayText(d.fv), kGroup),
-      NumberParam("sds", "Sds", DisplayText(d.sds), kGroup),
-      NumberParam("sd1", "Sd1", DisplayText(d.sd1), kGroup),
-      NumberParam(
-          "importance", "Importance Factor (Ie)", DisplayText(d.ie), {},
-          {kKds2019ImportanceItems.begin(), kKds2019ImportanceItems.end()}),
-      NumberParam("r", "Response Modification Coef. (R)", DisplayText(d.r), {},
-                  {kKds2019RItems.begin(), kKds2019RItems.end()}),
-  };
-  AppendGridParams(code.params);
-  code.on_change = [](ParamValues& v, std::string_view field, MessageSink&) {
-    const bool hand_entry = IntegerValue(v, "site") == kKds2019SiteS6;
-    if (field == "zone" && !hand_entry) {
-      v["epa"] = Kds2019EpaForZone(IntegerValue(v, "zone"));
-      RefreshCoefficients(v);
-    } else if (field == "epa" && !hand_entry) {
-      RefreshCoefficients(v);
-    } else if (field == "site") {
-      RefreshCoefficients(v);
+  using P = Kds2019Params;
+  constexpr char kGroup[] = "Design Spectral Response Acceleration";
+  CodeBuilder<P> code("kds2019", kKds2019Title, kKds2019Title, kKds2019Title);
+  code.fields()
+      .Choice("zone", "Seismic Zone", &P::zone, Texts(kKds2019Zones))
+      .In(kGroup)
+      .Number("epa", "EPA(S)", &P::s)
+      .Offer(Texts(kKds2019EpaItems))
+      .In(kGroup)
+      .Choice("site", "Site Class", &P::site, Texts(kKds2019SiteClasses))
+      .In(kGroup)
+      .Number("fa", "Fa", &P::fa)
+      .In(kGroup)
+      .Number("fv", "Fv", &P::fv)
+      .In(kGroup)
+      .Number("sds", "Sds", &P::sds)
+      .Unit("g")
+      .In(kGroup)
+      .Number("sd1", "Sd1", &P::sd1)
+      .Unit("g")
+      .In(kGroup)
+      .Number("importance", "Importance Factor (Ie)", &P::ie)
+      .Offer(Texts(kKds2019ImportanceItems))
+      .Number("r", "Response Modification Coef. (R)", &P::r)
+      .Offer(Texts(kKds2019RItems))
+      .Grid(&P::grid);
+  code.OnChange([](Form<P>& f, MessageSink&) {
+    const bool hand_entry = f.Read().site == kKds2019SiteS6;
+    if (f.Is(&P::zone) && !hand_entry) {
+      f.ShowText(&P::s, Kds2019EpaForZone(f.Read().zone));
+    } else if (!f.Is(&P::site) && !(f.Is(&P::s) && !hand_entry)) {
+      return true;
+    }
+    // Fa, Fv, Sds and Sd1 from the EPA text and the site class, written
+    // back as the edit boxes show them.
+    const P p = f.Read();
+    Kds2019Coefficients c;
+    if (Kds2019Refresh(p.s, p.site, c)) {
+      f.Show(&P::fa, c.fa);
+      f.Show(&P::fv, c.fv);
+      f.Show(&P::sds, c.sds);
+      f.Show(&P::sd1, c.sd1);
     }
     return true;
-  };
-  code.generate = [](const ParamValues& v, CZELwDoc& doc, MessageSink& m) {
-    Kds2019Params p;
-    p.zone = IntegerValue(v, "zone");
-    p.site = IntegerValue(v, "site");
-    p.s = NumberValue(v, "epa");
-    p.fa = NumberValue(v, "fa");
-    p.fv = NumberValue(v, "fv");
-    p.sds = NumberValue(v, "sds");
-    p.sd1 = NumberValue(v, "sd1");
-    p.ie = NumberValue(v, "importance");
-    p.r = NumberValue(v, "r");
-    p.grid = GridFromValues(v);
-    return GenerateKds2019(doc, p, m);
-  };
-  return code;
+  });
+  return code.Build(GenerateKds2019);
 }
 
 }  // namespace zel

@@ -43,13 +43,6 @@ TEST(Ibc2000Test, SiteDSpectrum) {
   p.r = 6.0;
   EXPECT_NEAR(Ibc2000Spectrum(p)[3].sa, 0.132, 1e-12);
   EXPECT_EQ(Ibc2000Label(p), "Site Class = D  Ss = 0.600  S1 = 0.200");
-
-  CZELwDoc doc;
-  MessageLog log;
-  ASSERT_TRUE(GenerateIbc2000(doc, p, log));
-  EXPECT_EQ(doc.title, "IBC2000(ASCE7-98)");
-  EXPECT_EQ(doc.AxisTitle(1), "Absolute Acceleration (g)");
-  EXPECT_EQ(doc.point_count[0], 102);
 }
 
 TEST(Ibc2000Test, SiteClassENoteIsStrictAndComesFirst) {

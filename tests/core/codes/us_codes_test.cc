@@ -101,30 +101,6 @@ TEST(Ubc97Test, WorkedExampleCa04Cv056) {
   EXPECT_EQ(Ubc97Label(p), "Ca=0.4  Cv=0.56");
 }
 
-TEST(Ubc97Test, DocumentHandOverAndPointCount) {
-  const Ubc97Params p{.ca = 0.4, .cv = 0.56, .grid = {}};
-  CZELwDoc doc;
-  int updates = 0;
-  doc.on_update = [&] { ++updates; };
-  MessageLog log;
-  ASSERT_TRUE(GenerateUbc97(doc, p, log));
-  EXPECT_TRUE(log.texts().empty());
-  EXPECT_EQ(doc.spectrum_kind, kAbsoluteAcceleration);
-  EXPECT_EQ(doc.title, "UBC(1997) Design Spectrum");
-  EXPECT_EQ(doc.window_title, "UBC(1997) Design Spectrum");
-  EXPECT_EQ(doc.subtitle, "Ca=0.4  Cv=0.56");
-  EXPECT_EQ(doc.AxisTitle(0), "Period Tn (sec)");
-  EXPECT_EQ(doc.AxisTitle(1), "Absolute Acceleration (g)");
-  EXPECT_EQ(doc.chart.title_lines.size(), 2u);
-  EXPECT_EQ(doc.thick_lines, 1);  // the style command toggles it
-  EXPECT_EQ(updates, 1);
-  // 103 points on the chart; stored without the last mark, so 102 counted.
-  EXPECT_EQ(doc.StoredPoints(0), 103u);
-  EXPECT_EQ(doc.point_count[0], 102);
-  EXPECT_EQ(doc.period_steps, 100);
-  EXPECT_EQ(doc.period_to, 6.0);
-}
-
 TEST(Ubc97Test, ChecksInOrderLeaveTheDocumentEmpty) {
   const auto first_message = [](Ubc97Params p) {
     CZELwDoc doc;

@@ -1,0 +1,55 @@
+#include "core/codes/design_document.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+namespace zel {
+namespace {
+
+TEST(DesignDocumentTest, ClassicHandOverSavesOnePointShortOfTheChart) {
+  const std::vector<SpectrumPoint> points = {
+      {0.0, 0.4}, {0.5, 1.0}, {1.0, 0.5}};
+  CZELwDoc doc;
+  int updates = 0;
+  doc.on_update = [&] { ++updates; };
+  StoreDesignSpectrum(doc, "UBC(1997) Design Spectrum", "Ca=0.4  Cv=0.56",
+                      points);
+  EXPECT_EQ(doc.spectrum_kind, kAbsoluteAcceleration);
+  EXPECT_EQ(doc.window_title, "UBC(1997) Design Spectrum");
+  EXPECT_EQ(doc.subtitle, "Ca=0.4  Cv=0.56");
+  EXPECT_EQ(doc.chart.title_lines.size(), 2u);
+  EXPECT_EQ(doc.AxisTitle(0), "Period Tn (sec)");
+  EXPECT_EQ(doc.AxisTitle(1), "Absolute Acceleration (g)");
+  EXPECT_EQ(doc.thick_lines, 1);  // the style command toggles it
+  EXPECT_EQ(updates, 1);
+  // Three points on the chart, stored without the last mark: two counted.
+  EXPECT_EQ(doc.StoredPoints(0), 3u);
+  EXPECT_EQ(doc.point_count[0], 2);
+}
+
+TEST(DesignDocumentTest, ArrayHandOverCountsEveryPointAndTitlesSa) {
+  CZELwDoc doc;
+  HandOverSpectrum(doc, std::vector<double>{0.0, 0.1, 0.2},
+                   std::vector<double>{1.0, 2.0, 3.0, 4.0}, "KBC2005", "label");
+  EXPECT_EQ(doc.spectrum_kind, kAbsoluteAcceleration);
+  EXPECT_EQ(doc.window_title, "KBC2005");
+  EXPECT_EQ(doc.AxisTitle(0), "Period Tn (sec)");
+  EXPECT_EQ(doc.AxisTitle(1), "Sa (g)");
+  // The shorter array decides; every pair carries the last mark.
+  EXPECT_EQ(doc.StoredPoints(0), 3u);
+  EXPECT_EQ(doc.point_count[0], 3);
+}
+
+TEST(DesignDocumentTest, NonFiniteParametersAreNamed) {
+  MessageLog log;
+  EXPECT_TRUE(CheckFiniteParameters({{"Ca", 0.4}, {"R", 0.0}}, log));
+  EXPECT_FALSE(CheckFiniteParameters(
+      {{"Ca", 0.4}, {"R", INFINITY}, {"I", std::nan("")}}, log));
+  EXPECT_EQ(log.texts(),
+            std::vector<std::string>{"The value R must be a finite number"});
+}
+
+}  // namespace
+}  // namespace zel
