@@ -1,8 +1,10 @@
 // The design-spectrum dialogs: defaults, notifications, the OK sequence and
 // the documents they make.
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFocusEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +18,7 @@
 #include "app/shell/command_table.h"
 #include "app_fixture.h"
 #include "core/codes/period_grid.h"
+#include "core/codes/ubc97_coefficients.h"
 #include "core/codes/us_codes.h"
 #include "core/document/data_file.h"
 #include "core/document/test_files.h"
@@ -151,10 +154,18 @@ TEST_F(DesignDialogs, TypingPickingAndClickingReachTheCode) {
     Type(d, "distance", "3.5");  // Na 1.35, Nv 1.8
     EXPECT_EQ(d.Values().at("ca"), "0.594");
     EXPECT_EQ(d.Values().at("cv"), "1.152");
-    Type(d, "distance", "-2");  // "-" reads as 0 km, "-2" is refused
-    EXPECT_EQ(messages(), std::vector<std::string>{
-                              "Error! Distance must not be negative value."});
+    // No message box while "-2" is typed; one when the field is left, and
+    // OK refuses it. The fields keep what "-" on the way (0 km) gave.
+    Type(d, "distance", "-2");
+    EXPECT_TRUE(messages().empty());
+    QFocusEvent leave(QEvent::FocusOut);
+    QApplication::sendEvent(d.findChild<QLineEdit*>("distance"), &leave);
+    QApplication::sendEvent(d.findChild<QLineEdit*>("distance"), &leave);
     EXPECT_EQ(d.Values().at("ca"), "0.66");
+    PressOk(d);
+    EXPECT_EQ(messages(), std::vector<std::string>(2, kDistanceMessage));
+    EXPECT_EQ(d.result(), QDialog::Rejected);
+    EXPECT_EQ(frame().ActiveDocument()->store().Size(0), 0u);
     Choose(d, "option", 1);
     EXPECT_TRUE(Enabled(d, "ca"));
     EXPECT_FALSE(Enabled(d, "zone"));

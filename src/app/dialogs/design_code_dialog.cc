@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -146,8 +147,12 @@ void DesignCodeDialog::AddField(const ParamDescriptor& param, QGridLayout& grid,
     control = field.edit;
   }
   if (field.edit != nullptr) {
+    // While the user types, a message waits until the field is left, so
+    // that "-" on the way to "-2" raises nothing.
     connect(field.edit, &QLineEdit::textEdited, this,
-            [this, n = param.name] { OnFieldChanged(n); });
+            [this, n = param.name] { OnFieldChanged(n, /*typing=*/true); });
+    field.edit->installEventFilter(this);
+    edit_names_[field.edit] = param.name;
   }
   control->setObjectName(name);
   control->setMinimumWidth(kEditWidth);
@@ -298,11 +303,33 @@ void DesignCodeDialog::UpdateStates(const ParamValues& values) {
   }
 }
 
-void DesignCodeDialog::OnFieldChanged(const std::string& name) {
+void DesignCodeDialog::OnFieldChanged(const std::string& name, bool typing) {
+  // A notification refused while typing is made again, with its message,
+  // when the user leaves the field.
+  class Silent : public MessageSink {
+   public:
+    void Show(std::string_view) override {}
+  } silent;
   ParamValues values = Values();
-  NotifyChanged(code_, values, name, host_.messages());
+  const bool accepted =
+      NotifyChanged(code_, values, name, typing ? silent : host_.messages());
+  if (typing && !accepted) {
+    refused_while_typing_.insert(name);
+  } else {
+    refused_while_typing_.erase(name);
+  }
   ShowValues(values);
   UpdateStates(values);
+}
+
+bool DesignCodeDialog::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusOut) {
+    const auto it = edit_names_.find(watched);
+    if (it != edit_names_.end() && refused_while_typing_.count(it->second)) {
+      OnFieldChanged(it->second, /*typing=*/false);
+    }
+  }
+  return QDialog::eventFilter(watched, event);
 }
 
 void DesignCodeDialog::accept() {

@@ -11,6 +11,7 @@
 
 #include <QDialog>
 #include <map>
+#include <set>
 #include <string>
 
 #include "app/dialogs/dialog_host.h"
@@ -45,6 +46,9 @@ class DesignCodeDialog : public QDialog {
   // A failure leaves the new, empty document and this dialog open.
   void accept() override;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   struct Field {
     const ParamDescriptor* param = nullptr;
@@ -66,8 +70,9 @@ class DesignCodeDialog : public QDialog {
   void ShowValues(const ParamValues& values);
   void UpdateStates(const ParamValues& values);
   // A control changed by the user: the registry's notification, then the
-  // rewritten texts and the states.
-  void OnFieldChanged(const std::string& name);
+  // rewritten texts and the states. `typing`: an edit's text is still being
+  // typed, and a message waits until the field is left.
+  void OnFieldChanged(const std::string& name, bool typing = false);
   // Insert: the list field's typed number joins its list.
   void OnInsert(Field& field);
 
@@ -76,6 +81,8 @@ class DesignCodeDialog : public QDialog {
   std::map<std::string, Field, std::less<>> fields_;
   std::map<std::string, QGridLayout*> groups_;
   std::map<QGridLayout*, int> next_slot_;  // next row (or column triple)
+  std::map<const QObject*, std::string> edit_names_;
+  std::set<std::string> refused_while_typing_;
 };
 
 }  // namespace zel::app

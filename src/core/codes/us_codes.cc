@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/codes/design_document.h"
+#include "core/codes/ubc97_coefficients.h"
 #include "core/document/c_format.h"
 
 namespace zel {
@@ -153,6 +154,13 @@ bool GenerateUbc88(CZELwDoc& doc, const Ubc88Params& p, MessageSink& messages) {
 bool GenerateUbc97(CZELwDoc& doc, const Ubc97Params& p, MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages)) return false;
+  // Automatic coefficients of zone 4 are only valid for a distance the
+  // near-source factors accept; the fields then still hold older values.
+  if (p.option == Ubc97Params::kAutomatic && p.zone == kUbc97Zone4 &&
+      !(p.distance >= 0.0)) {
+    messages.Show(kDistanceMessage);
+    return false;
+  }
   // Negated so that NaN is refused with the same message.
   if (!(p.ca > 0.0)) {
     messages.Show(kCaMessage);

@@ -114,6 +114,9 @@ TEST(Ubc97Test, ChecksInOrderLeaveTheDocumentEmpty) {
   Ubc97Params p{.ca = 0.0, .cv = 0.0, .grid = {0.0, 6.0, 0}};
   EXPECT_EQ(first_message(p), kStepMessage);
   p.grid.steps = 100;
+  p.distance = -1.0;  // automatic, zone 4: the coefficients are not valid
+  EXPECT_EQ(first_message(p), "Error! Distance must not be negative value.");
+  p.option = Ubc97Params::kUserDefined;
   EXPECT_EQ(first_message(p), "The value Ca must be greater than zero");
   p.ca = 0.4;
   EXPECT_EQ(first_message(p), "The value Cv must be greater than zero");
