@@ -107,46 +107,6 @@ TEST(CodeRegistryTest, EveryCodeIsCompleteAndGeneratesFromEveryChoice) {
   EXPECT_EQ(FindDesignCode("eurocode"), nullptr);
 }
 
-TEST(CodeRegistryTest, Ubc97AutomaticOptionDrivesTheCoefficientFields) {
-  const CodeEntry& code = *FindDesignCode("ubc97");
-  ParamValues v = DefaultValues(code);
-  EXPECT_EQ(v.at("ca"), "0.44");
-  EXPECT_EQ(v.at("cv"), "0.64");
-  EXPECT_EQ(v.at("distance"), "10.0");
-  EXPECT_EQ(GetFieldState(code, v, "ca"), FieldState::kReadOnly);
-  EXPECT_EQ(GetFieldState(code, v, "zone"), FieldState::kEnabled);
-  EXPECT_EQ(GetFieldState(code, v, "distance"), FieldState::kEnabled);
-
-  MessageLog log;
-  v["source"] = "0";
-  v["distance"] = "2";
-  ASSERT_TRUE(NotifyChanged(code, v, "distance", log));
-  EXPECT_EQ(v.at("ca"), "0.66");
-  EXPECT_EQ(v.at("cv"), "1.28");
-  v["distance"] = "-3";
-  EXPECT_FALSE(NotifyChanged(code, v, "distance", log));
-  EXPECT_EQ(v.at("ca"), "0.66");
-  EXPECT_EQ(v.at("cv"), "1.28");
-  EXPECT_EQ(log.texts(), std::vector<std::string>{
-                             "Error! Distance must not be negative value."});
-
-  v["zone"] = "3";  // zone 3 never reads the distance
-  ASSERT_TRUE(NotifyChanged(code, v, "zone", log));
-  EXPECT_EQ(v.at("ca"), "0.36");
-  EXPECT_EQ(v.at("cv"), "0.54");
-  EXPECT_EQ(GetFieldState(code, v, "source"), FieldState::kDisabled);
-
-  v["option"] = "1";  // User Defined: the fields keep what was computed
-  ASSERT_TRUE(NotifyChanged(code, v, "option", log));
-  EXPECT_EQ(GetFieldState(code, v, "ca"), FieldState::kEnabled);
-  EXPECT_EQ(GetFieldState(code, v, "zone"), FieldState::kDisabled);
-  v["ca"] = "abc";  // not a number: read as 0, refused on OK
-  CZELwDoc doc;
-  EXPECT_FALSE(code.generate(v, doc, log));
-  EXPECT_EQ(log.texts().back(), "The value Ca must be greater than zero");
-  EXPECT_EQ(doc.StoredPoints(0), 0u);
-}
-
 TEST(CodeRegistryTest, Kds2019NotificationsAndValuesAsDisplayed) {
   const CodeEntry& code = *FindDesignCode("kds2019");
   ParamValues v = DefaultValues(code);
