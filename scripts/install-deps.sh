@@ -10,6 +10,7 @@ packages=(
   libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-dev clang-format
   locales xvfb xauth
+  desktop-file-utils libxml2-utils dpkg-dev
 )
 
 sudo_cmd=()
