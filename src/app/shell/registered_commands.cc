@@ -9,6 +9,9 @@
 // On OK the dialog makes its document through its DialogHost:
 //   CZELwDoc* doc = host.NewDocument(kNewDocumentDesignSpectrum);
 // fills it, sets its title and calls doc->UpdateAllViews().
+#include "app/dialogs/cdlg_ch2002.h"
+#include "app/dialogs/cdlg_ch_brg89.h"
+#include "app/dialogs/cdlg_ch_gbj111_87.h"
 #include "app/dialogs/cdlg_ibc2000.h"
 #include "app/dialogs/dlg_atc.h"
 #include "app/dialogs/dlg_kds2019.h"
@@ -51,6 +54,10 @@ void RegisterCommands(CommandRegistry& registry) {
   registry.Register(ID_DESIGN_UBC, RunGenerateDialog<DLG_UBC>);
   registry.Register(ID_DESIGN_UBC97, RunGenerateDialog<DLG_UBC97>);
   registry.Register(ID_DESIGN_IBC2000, RunGenerateDialog<CDLG_IBC2000>);
+  registry.Register(ID_DESIGN_CH2002, RunGenerateDialog<CDLG_CH2002>);
+  registry.Register(ID_DESIGN_CH_BRG89, RunGenerateDialog<CDLG_CH_BRG89>);
+  registry.Register(ID_DESIGN_CH_GBJ111_87,
+                    RunGenerateDialog<CDLG_CH_GBJ111_87>);
   registry.Register(ID_DESIGN_KDS2019, RunGenerateDialog<DLG_KDS2019>);
 }
 

@@ -26,7 +26,8 @@ bool SameIgnoringCase(std::string_view a, std::string_view b) {
 const std::vector<CodeEntry>& DesignCodes() {
   // A new code adds its entry function here.
   static const std::vector<CodeEntry> codes = {
-      Atc306Entry(), Ubc88Entry(), Ubc97Entry(), Ibc2000Entry(), Kds2019Entry(),
+      Atc306Entry(),  Ubc88Entry(),  Ubc97Entry(),  Ibc2000Entry(),
+      Gb50011Entry(), Jtj004Entry(), Gbj111Entry(), Kds2019Entry(),
   };
   return codes;
 }

@@ -120,6 +120,9 @@ CodeEntry Atc306Entry();
 CodeEntry Ubc88Entry();
 CodeEntry Ubc97Entry();
 CodeEntry Ibc2000Entry();
+CodeEntry Gb50011Entry();
+CodeEntry Jtj004Entry();
+CodeEntry Gbj111Entry();
 CodeEntry Kds2019Entry();
 
 }  // namespace zel
