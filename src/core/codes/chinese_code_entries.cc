@@ -18,10 +18,28 @@ std::vector<std::string> Texts(const std::array<const char*, N>& texts) {
 }
 
 constexpr char kSiteLabel[] = "Site Class";
-constexpr char kBridgeIntensityLabel[] = "Seismic Intensity";
-constexpr char kKhLabel[] = "Horizontal Seismic Coef. (Kh) :";
 constexpr char kTgLabel[] =
     "Design Characteristic Period of Ground Motion (Tg) (sec) :";
+
+// The first fields of both bridge codes: intensity, Kh and site class.
+template <class P>
+FieldTable<P>& BridgeFields(FieldTable<P>& fields) {
+  return fields
+      .Choice("intensity", "Seismic Intensity", &P::intensity,
+              Texts(kBridgeIntensities))
+      .Radio()
+      .Number("kh", "Horizontal Seismic Coef. (Kh) :", &P::kh)
+      .Choice("site", kSiteLabel, &P::site, Texts(kChineseSiteClasses))
+      .Radio();
+}
+
+// A new intensity rewrites Kh with its suggestion; true when it did.
+template <class P>
+bool SuggestKh(Form<P>& f) {
+  if (!f.Is(&P::intensity)) return false;
+  f.Show(&P::kh, BridgeSuggestedKh(f.Read().intensity));
+  return true;
+}
 
 }  // namespace
 
@@ -62,13 +80,7 @@ CodeEntry Jtj004Entry() {
   using P = Jtj004Params;
   CodeBuilder<P> code("jtj004-89", "China(JTJ004-89)", "China(JTJ004-89)",
                       kJtj004Title);
-  code.fields()
-      .Choice("intensity", kBridgeIntensityLabel, &P::intensity,
-              Texts(kBridgeIntensities))
-      .Radio()
-      .Number("kh", kKhLabel, &P::kh)
-      .Choice("site", kSiteLabel, &P::site, Texts(kChineseSiteClasses))
-      .Radio()
+  BridgeFields(code.fields())
       .Number("tg", kTgLabel, &P::tg)
       .Choice("ci", "Importance Factor (Ci) :", &P::ci, Texts(kJtj004CiTexts))
       .Choice("cz", "General Effect Factor (Cz) :", &P::cz,
@@ -77,10 +89,7 @@ CodeEntry Jtj004Entry() {
       .Number("k", "Exponent (k) = 0.9 +  0.1μ :", &P::k)
       .Grid(&P::grid);
   code.OnChange([](Form<P>& f, MessageSink&) {
-    if (f.Is(&P::intensity)) {
-      f.Show(&P::kh, BridgeSuggestedKh(f.Read().intensity));
-      return true;
-    }
+    if (SuggestKh(f)) return true;
     if (f.Is(&P::site)) {
       const int site = f.Read().site;
       f.Show(&P::tg, Jtj004SuggestedTg(site));
@@ -102,13 +111,7 @@ CodeEntry Gbj111Entry() {
   using P = Gbj111Params;
   CodeBuilder<P> code("gbj111-87", "China(GBJ111-87)", "China(GBJ111-87)",
                       kGbj111Title);
-  code.fields()
-      .Choice("intensity", kBridgeIntensityLabel, &P::intensity,
-              Texts(kBridgeIntensities))
-      .Radio()
-      .Number("kh", kKhLabel, &P::kh)
-      .Choice("site", kSiteLabel, &P::site, Texts(kChineseSiteClasses))
-      .Radio()
+  BridgeFields(code.fields())
       .Number("tg1",
               "Design Characteristic Period of Ground Motion (Tg1) (sec) :",
               &P::tg1)
@@ -117,10 +120,7 @@ CodeEntry Gbj111Entry() {
       .Text("1.0")
       .Grid(&P::grid);
   code.OnChange([](Form<P>& f, MessageSink&) {
-    if (f.Is(&P::intensity)) {
-      f.Show(&P::kh, BridgeSuggestedKh(f.Read().intensity));
-      return true;
-    }
+    if (SuggestKh(f)) return true;
     if (f.Is(&P::site)) {
       f.Show(&P::tg1, Gbj111SuggestedTg1(f.Read().site));
     } else if (!f.Is(&P::tg1)) {

@@ -20,6 +20,16 @@ std::string Refusal(Generate generate, const P& p) {
   return log.texts().empty() ? std::string() : log.texts()[0];
 }
 
+// The dialog's texts once the user has set `field` to `text` and the code
+// has reacted.
+ParamValues& Set(const CodeEntry& code, ParamValues& v, const char* field,
+                 const char* text) {
+  v[field] = text;
+  MessageLog log;
+  EXPECT_TRUE(NotifyChanged(code, v, field, log));
+  return v;
+}
+
 TEST(Gb50011Test, DampingAdjustmentsAtFiveAndFiftyPercent) {
   const Gb50011Damping standard = Gb50011DampingFor(0.05);
   EXPECT_EQ(standard.gamma, 0.9);
@@ -79,14 +89,11 @@ TEST(Gb50011Test, OwnChecksComeBeforeTheGrid) {
 
 TEST(Gb50011Test, DialogSuggestsTgWhenASelectionChanges) {
   const CodeEntry& code = *FindDesignCode("gb50011-2001");
-  MessageLog log;
   ParamValues v = DefaultValues(code);
   EXPECT_EQ(v.at("tg"), "0.25");
   EXPECT_EQ(v.at("damping"), "0.05");
   const auto pick = [&](const char* field, const char* index) {
-    v[field] = index;
-    EXPECT_TRUE(NotifyChanged(code, v, field, log));
-    return v.at("tg");
+    return Set(code, v, field, index).at("tg");
   };
   EXPECT_EQ(pick("category", "1"), "0.3");
   EXPECT_EQ(pick("site", "2"), "0.55");
@@ -125,23 +132,17 @@ TEST(Jtj004Test, DecayReachesTheFloorAtSevenAndAHalfTgWhenKIsOne) {
 
 TEST(Jtj004Test, DialogSuggestsKhTgAndMuAndShowsK) {
   const CodeEntry& code = *FindDesignCode("jtj004-89");
-  MessageLog log;
   ParamValues v = DefaultValues(code);
   EXPECT_EQ(v.at("kh"), "0.1");
   EXPECT_EQ(v.at("tg"), "0.2");
   EXPECT_EQ(v.at("k"), "0.98");
   EXPECT_EQ(GetFieldState(code, v, "k"), FieldState::kReadOnly);
-  v["intensity"] = "2";
-  ASSERT_TRUE(NotifyChanged(code, v, "intensity", log));
-  EXPECT_EQ(v.at("kh"), "0.4");
-  v["site"] = "2";
-  ASSERT_TRUE(NotifyChanged(code, v, "site", log));
+  EXPECT_EQ(Set(code, v, "intensity", "2").at("kh"), "0.4");
+  Set(code, v, "site", "2");  // III
   EXPECT_EQ(v.at("tg"), "0.45");
   EXPECT_EQ(v.at("mu"), "0");
   EXPECT_EQ(v.at("k"), "0.9");
-  v["mu"] = "0.35";
-  ASSERT_TRUE(NotifyChanged(code, v, "mu", log));
-  EXPECT_EQ(v.at("k"), "0.935");
+  EXPECT_EQ(Set(code, v, "mu", "0.35").at("k"), "0.935");
 }
 
 TEST(Gbj111Test, PlateauFromZeroThenHyperbolaToTheFloorAtFiveTg1) {
@@ -167,21 +168,14 @@ TEST(Gbj111Test, PlateauFromZeroThenHyperbolaToTheFloorAtFiveTg1) {
             "The edit value in 'Tg1' must be greater than 0");
 
   const CodeEntry& code = *FindDesignCode("gbj111-87");
-  MessageLog log;
   ParamValues v = DefaultValues(code);
   EXPECT_EQ(v.at("cz"), "1.0");
   EXPECT_EQ(v.at("tg2"), "1");
   EXPECT_EQ(GetFieldState(code, v, "tg2"), FieldState::kReadOnly);
-  v["intensity"] = "1";
-  ASSERT_TRUE(NotifyChanged(code, v, "intensity", log));
-  EXPECT_EQ(v.at("kh"), "0.2");
-  v["site"] = "1";
-  ASSERT_TRUE(NotifyChanged(code, v, "site", log));
-  EXPECT_EQ(v.at("tg1"), "0.3");
+  EXPECT_EQ(Set(code, v, "intensity", "1").at("kh"), "0.2");
+  EXPECT_EQ(Set(code, v, "site", "1").at("tg1"), "0.3");  // II
   EXPECT_EQ(v.at("tg2"), "1.5");
-  v["tg1"] = "0.25";
-  ASSERT_TRUE(NotifyChanged(code, v, "tg1", log));
-  EXPECT_EQ(v.at("tg2"), "1.25");
+  EXPECT_EQ(Set(code, v, "tg1", "0.25").at("tg2"), "1.25");
 }
 
 }  // namespace
