@@ -4,6 +4,7 @@
 
 #include <iostream>
 #include <string_view>
+#include <system_error>
 
 #include "core/document/messages.h"
 
@@ -11,14 +12,16 @@ namespace zel::cli {
 
 class StderrMessages : public MessageSink {
  public:
-  void Show(std::string_view text) override {
-    std::cerr << text << '\n';
-    ++count_;
+  void Show(std::string_view text) override { std::cerr << text << '\n'; }
+  // "ERROR! File Not Found!", then the path and the system's reason, which a
+  // script's user needs and a message box never showed.
+  void ShowFileError(std::string_view path, int error_number) override {
+    Show(kFileNotFoundMessage);
+    std::cerr
+        << path << ": "
+        << std::error_code(error_number, std::generic_category()).message()
+        << '\n';
   }
-  int count() const { return count_; }
-
- private:
-  int count_ = 0;
 };
 
 }  // namespace zel::cli

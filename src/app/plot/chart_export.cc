@@ -1,9 +1,12 @@
 #include "app/plot/chart_export.h"
 
+#include <QBuffer>
+#include <QFile>
 #include <QImage>
-#include <QSaveFile>
+#include <string_view>
 
 #include "app/plot/chart_widget.h"
+#include "core/document/replacing_file.h"
 
 namespace zel::app {
 
@@ -11,13 +14,16 @@ bool SaveChartImage(ChartWidget& chart, const QString& path,
                     const char* format) {
   // JPEG has no alpha channel; flatten onto white first.
   QImage image = chart.RenderImage().convertToFormat(QImage::Format_RGB32);
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return false;
-  if (!image.save(&file, format, 95)) {
-    file.cancelWriting();
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format, 95)) {
     return false;
   }
-  return file.commit();
+  // Saved as the data file is: a failed save leaves the old picture.
+  ReplacingFile file(QFile::encodeName(path).toStdString());
+  return file.Write(std::string_view(bytes.constData(),
+                                     static_cast<std::size_t>(bytes.size()))) &&
+         file.Commit();
 }
 
 }  // namespace zel::app

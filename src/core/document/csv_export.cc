@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <vector>
 
 #include "core/document/c_format.h"
@@ -70,8 +69,8 @@ std::string CurvesToCsv(const CZELwDoc& doc) {
 bool WriteCsvFile(const CZELwDoc& doc, const std::string& path,
                   MessageSink& messages) {
   ReplacingFile file(path);
-  if (!(file.is_open() && file.Write(CurvesToCsv(doc)) && file.Commit())) {
-    messages.Show(kFileNotFoundMessage);
+  if (!(file.Write(CurvesToCsv(doc)) && file.Commit())) {
+    messages.ShowFileError(path, file.error());
     return false;
   }
   return true;

@@ -18,6 +18,14 @@ class MessageSink {
   virtual ~MessageSink() = default;
   // Shows one message and returns once the user has acknowledged it.
   virtual void Show(std::string_view text) = 0;
+  // A file that could not be opened, read or written: `path` and the
+  // system's error number. The program shows "ERROR! File Not Found!" as it
+  // always has; the command line adds the path and the system's reason.
+  virtual void ShowFileError(std::string_view path, int error_number) {
+    static_cast<void>(path);
+    static_cast<void>(error_number);
+    Show(kFileNotFoundMessage);
+  }
 };
 
 // Keeps every message in the order shown.

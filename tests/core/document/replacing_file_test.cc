@@ -1,7 +1,10 @@
 #include "core/document/replacing_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <cerrno>
+#include <climits>
 #include <filesystem>
 
 #include "core/document/test_files.h"
@@ -9,38 +12,68 @@
 namespace zel {
 namespace {
 
+namespace fs = std::filesystem;
 using zel::testing::ReadAll;
+using zel::testing::WriteAll;
+
+bool Save(const fs::path& path, const std::string& text, int* error = nullptr) {
+  ReplacingFile file(path.string());
+  const bool saved = file.Write(text) && file.Commit();
+  if (error != nullptr) *error = file.error();
+  return saved;
+}
 
 TEST(ReplacingFileTest, TheTargetChangesOnlyWhenTheNewFileIsComplete) {
   zel::testing::TempDir dir;
-  const std::filesystem::path target = dir / "s.zel";
-  zel::testing::WriteAll(target, "old");
+  const fs::path target = dir / "s.zel";
+  WriteAll(target, "old");
+  fs::permissions(target, fs::perms(0640));
   {
     ReplacingFile abandoned(target.string());
     ASSERT_TRUE(abandoned.Write("half a"));
   }
   EXPECT_EQ(ReadAll(target), "old");
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()), {}),
-            1);
-
-  ReplacingFile file(target.string());
-  ASSERT_TRUE(file.Write("new "));
-  ASSERT_TRUE(file.Write("content"));
-  ASSERT_TRUE(file.Commit());
+  ASSERT_TRUE(Save(target, "new content"));
   EXPECT_EQ(ReadAll(target), "new content");
+  EXPECT_EQ(fs::status(target).permissions(), fs::perms(0640));
 
-  // A folder in the way: the rename fails and nothing is left behind.
-  std::filesystem::create_directory(dir / "folder.zel");
-  ReplacingFile blocked((dir / "folder.zel").string());
+  // A rename that fails leaves nothing behind.
+  ReplacingFile blocked((dir / "late.zel").string());
+  fs::create_directory(dir / "late.zel");
   ASSERT_TRUE(blocked.Write("x"));
   EXPECT_FALSE(blocked.Commit());
-  EXPECT_TRUE(std::filesystem::is_directory(dir / "folder.zel"));
-  EXPECT_FALSE(std::filesystem::exists(dir / "folder.zel.zel.tmp"));
+  EXPECT_NE(blocked.error(), 0);
+  EXPECT_EQ(std::distance(fs::directory_iterator(dir.path()), {}), 2);
+}
 
-  ReplacingFile nowhere((dir / "no/such/dir.zel").string());
-  EXPECT_FALSE(nowhere.is_open());
-  EXPECT_FALSE(nowhere.Write("x"));
-  EXPECT_FALSE(nowhere.Commit());
+TEST(ReplacingFileTest, LinksLongNamesDevicesAndRefusals) {
+  zel::testing::TempDir dir;
+  // Through a symbolic link: the link stays, its target is replaced.
+  fs::create_directory(dir / "real");
+  WriteAll(dir / "real" / "s.zel", "old");
+  fs::create_symlink("real/s.zel", dir / "link.zel");
+  ASSERT_TRUE(Save(dir / "link.zel", "new"));
+  EXPECT_TRUE(fs::is_symlink(dir / "link.zel"));
+  EXPECT_EQ(ReadAll(dir / "real" / "s.zel"), "new");
+
+  const std::string longest(NAME_MAX, 'n');
+  ASSERT_TRUE(Save(dir / longest, "long"));
+  EXPECT_EQ(ReadAll(dir / longest), "long");
+
+  // A device is written to, never replaced.
+  ASSERT_TRUE(Save("/dev/null", "nothing"));
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+
+  int error = 0;
+  WriteAll(dir / "ro.zel", "kept");
+  fs::permissions(dir / "ro.zel", fs::perms(0444));
+  EXPECT_FALSE(Save(dir / "ro.zel", "x", &error));
+  EXPECT_EQ(error, EACCES);
+  EXPECT_EQ(ReadAll(dir / "ro.zel"), "kept");
+  EXPECT_FALSE(Save(dir / "real", "x", &error));
+  EXPECT_EQ(error, EISDIR);
+  EXPECT_FALSE(Save(dir / "no" / "such.zel", "x", &error));
+  EXPECT_EQ(error, ENOENT);
 }
 
 }  // namespace
