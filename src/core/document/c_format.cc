@@ -2,11 +2,14 @@
 
 #include <locale.h>
 
+#include <algorithm>
 #include <cctype>
+#include <charconv>
 #include <cmath>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 
 namespace zel {
@@ -64,15 +67,49 @@ std::string CFormat(const char* format, ...) {
   return out;
 }
 
-double AtoF(const char* text) { return strtod_l(text, nullptr, CLocale()); }
+double AtoF(const char* text) { return AtoF(text, std::strlen(text)); }
+
+double AtoF(const char* text, std::size_t length) {
+  // Plain decimal numbers, nearly every number ZEL reads, go through
+  // from_chars: like strtod it rounds correctly and reads the longest valid
+  // prefix, so the value is the same. Everything else (hexadecimal, inf,
+  // nan, values out of range, no number at all) is left to strtod.
+  const char* p = text;
+  while (*p == ' ' || (*p >= '\t' && *p <= '\r')) ++p;
+  const char* number = *p == '+' ? p + 1 : p;  // from_chars takes no '+'
+  const char* digits = number == p && *p == '-' ? p + 1 : number;
+  const bool decimal = (*digits >= '0' && *digits <= '9') || *digits == '.';
+  const bool hex = digits[0] == '0' && (digits[1] == 'x' || digits[1] == 'X');
+  if (decimal && !hex) {
+    double value;
+    const auto result = std::from_chars(number, text + length, value);
+    if (result.ec == std::errc()) return value;
+  }
+  return strtod_l(text, nullptr, CLocale());
+}
+
+void AppendDataNumber(std::string& out, double value) {
+  if (!std::isfinite(value)) {
+    out += CFormat("%2.5E", value);  // INF, -INF, NAN
+    return;
+  }
+  // "%.5e" exactly, as to_chars promises, then the upper-case E and an
+  // exponent of at least three digits.
+  char buffer[32];
+  const auto result = std::to_chars(buffer, buffer + sizeof buffer, value,
+                                    std::chars_format::scientific, 5);
+  char* e = std::find(buffer, result.ptr, 'e');
+  out.append(buffer, e);
+  out += 'E';
+  out += e[1];  // the exponent's sign
+  const std::size_t digits = static_cast<std::size_t>(result.ptr - (e + 2));
+  if (digits < 3) out.append(3 - digits, '0');
+  out.append(e + 2, result.ptr);
+}
 
 std::string FormatDataNumber(double value) {
-  std::string text = CFormat("%2.5E", value);
-  const size_t e = text.find('E');
-  if (e == std::string::npos || e + 1 >= text.size()) return text;  // NAN, INF
-  const size_t digits_at = e + 2;  // after the exponent's sign
-  const size_t digit_count = text.size() - digits_at;
-  if (digit_count < 3) text.insert(digits_at, 3 - digit_count, '0');
+  std::string text;
+  AppendDataNumber(text, value);
   return text;
 }
 

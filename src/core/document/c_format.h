@@ -4,6 +4,7 @@
 #ifndef ZEL_CORE_DOCUMENT_C_FORMAT_H_
 #define ZEL_CORE_DOCUMENT_C_FORMAT_H_
 
+#include <cstddef>
 #include <string>
 
 namespace zel {
@@ -15,11 +16,17 @@ std::string CFormat(const char* format, ...)
 // atof in the "C" locale: leading blanks skipped, the longest valid prefix
 // read, 0 when nothing can be read.
 double AtoF(const char* text);
-inline double AtoF(const std::string& text) { return AtoF(text.c_str()); }
+// The same for a text of known length (ending in a NUL, as a std::string's).
+double AtoF(const char* text, std::size_t length);
+inline double AtoF(const std::string& text) {
+  return AtoF(text.c_str(), text.size());
+}
 
 // The data file's number layout "%2.5E" with the exponent written with at
 // least three digits, as in 1.00000E-002.
 std::string FormatDataNumber(double value);
+// Appends FormatDataNumber(value) to `out`.
+void AppendDataNumber(std::string& out, double value);
 
 // Interprets `format` as printf would with no arguments, safely: "%%" gives
 // "%", every other conversion gives nothing. Titles pass through this when a
