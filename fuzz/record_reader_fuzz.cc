@@ -1,8 +1,7 @@
 // Feeds arbitrary bytes to the record reader, and what it accepts to the
 // time-history curve, the frequency switch and a small response spectrum.
 #include <cstdint>
-#include <cstdio>
-#include <vector>
+#include <string>
 
 #include "core/document/curve_document.h"
 #include "core/document/messages.h"
@@ -12,16 +11,15 @@
 
 namespace {
 
-std::FILE* OpenBytes(std::vector<char>& bytes) {
-  if (bytes.empty()) return std::fopen("/dev/null", "r");
-  return fmemopen(bytes.data(), bytes.size(), "r");
+zel::InputFile OpenBytes(const std::string& bytes) {
+  return zel::InputFile::FromBytes(bytes, "fuzz.dbs");
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
                                       std::size_t size) {
-  std::vector<char> bytes(data, data + size);
+  const std::string bytes(reinterpret_cast<const char*>(data), size);
   zel::MessageLog log;
 
   zel::CZELwDoc record;

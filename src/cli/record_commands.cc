@@ -2,11 +2,11 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <filesystem>
 #include <iostream>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cli/number_text.h"
@@ -14,6 +14,7 @@
 #include "cli/stderr_messages.h"
 #include "core/document/c_format.h"
 #include "core/document/curve_document.h"
+#include "core/document/input_file.h"
 #include "core/records/chart_setup.h"
 #include "core/records/frequency_switch.h"
 #include "core/records/record_catalog.h"
@@ -87,9 +88,12 @@ RecordSource FindRecord(const RecordOptions& options,
   return {id, "User EQ : " + std::filesystem::path(id).filename().string()};
 }
 
-std::FILE* OpenRecord(const RecordSource& source) {
-  std::FILE* file = std::fopen(source.path.c_str(), "r");
-  if (file == nullptr) Fail(kFileNotFoundMessage);
+InputFile OpenRecord(const RecordSource& source) {
+  InputFile file = InputFile::Open(source.path);
+  if (!file.is_open()) {
+    StderrMessages().ShowFileError(source.path, file.error());
+    throw CLI::RuntimeError(1);
+  }
   return file;
 }
 
@@ -100,10 +104,12 @@ CZELwDoc RecordDocument(const RecordOptions& options) {
   const double time = Number(options.time_scale, "--time-scale");
   StderrMessages messages;
   const RecordSource source = FindRecord(options, messages);
-  std::FILE* file = OpenRecord(source);
+  InputFile file = OpenRecord(source);
   CZELwDoc doc;
   PrepareRecordDocument(doc, amplitude, time, source.name);
-  if (ShowRecordCurve(doc, file, messages) != 1) throw CLI::RuntimeError(1);
+  if (ShowRecordCurve(doc, std::move(file), messages) != 1) {
+    throw CLI::RuntimeError(1);
+  }
   return doc;
 }
 
@@ -216,10 +222,10 @@ void AddSpectrum(CLI::App& app) {
     StderrMessages messages;
     const RecordSource source = FindRecord(options->record, messages);
     settings.record_name = source.name;
-    std::FILE* file = OpenRecord(source);
+    InputFile file = OpenRecord(source);
     CZELwDoc doc;
     PrepareSpectrumDocument(doc, settings);
-    if (ComputeResponseSpectrum(doc, file, messages) != 1) {
+    if (ComputeResponseSpectrum(doc, std::move(file), messages) != 1) {
       throw CLI::RuntimeError(1);
     }
     Save(doc, options->record.output);

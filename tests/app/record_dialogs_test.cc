@@ -250,6 +250,17 @@ TEST_F(RecordDialogsTest, MissingRecordFileKeepsTheDialogOpen) {
   EXPECT_EQ(app_->follow_up().record_path, folder_ + "dbase/Elcent_v.dbs");
   EXPECT_TRUE(app_->follow_up().spectrum_follows);
   EXPECT_FALSE(app_->follow_up().tripartite_follows);
+
+  // A record that would give wrong answers (here through a time scale of 0)
+  // is refused the same way, the reader's message first.
+  EQ_REC_DLG zero(*app_);
+  zero.chooser().time_scale()->setText("0");
+  messages_->Clear();
+  zero.accept();
+  EXPECT_THAT(messages(),
+              ElementsAre(::testing::StartsWith("Error : Times must increase!"),
+                          "an Error occurred while reading data!"));
+  EXPECT_EQ(zero.result(), QDialog::Rejected);
   EXPECT_EQ(WindowCount(), 0);  // nothing closes windows here
 }
 
@@ -384,9 +395,9 @@ TEST_F(RecordDialogsTest, ResponseSpectraEqualTheCoreComputation) {
     CZELwDoc expected;
     PrepareSpectrumDocument(expected, s);
     MessageLog log;
-    ASSERT_EQ(ComputeResponseSpectrum(
-                  expected, std::fopen(record_path_.c_str(), "r"), log),
-              1);
+    ASSERT_EQ(
+        ComputeResponseSpectrum(expected, InputFile::Open(record_path_), log),
+        1);
 
     const CZELwDoc& doc = child()->GetDocument();
     EXPECT_EQ(doc.curve_count, run.adds + 1);

@@ -104,7 +104,9 @@ TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
     std::string arguments;
     ::testing::Matcher<std::string> out;
   } failures[] = {
-      {"record 5" + base, Eq("ERROR! File Not Found!\n")},
+      {"record 5" + base,
+       Eq("ERROR! File Not Found!\n" + (dir / "dbase/Taft_t.dbs").string() +
+          ": No such file or directory\n")},
       {"record 54", _},
       {"record " + Quoted(dir / "empty.dbs"),
        Eq("Error : No Data Found!\nan Error occurred while reading data!\n")},
@@ -160,10 +162,12 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
             "Error : Wrong Format!\nan Error occurred while reading data!\n");
   EXPECT_FALSE(std::filesystem::exists(dir / "bad.zel"));
 
-  // A time scale of 0 and from = to are defined results, not failures.
-  r = RunTo(dir, spectrum + " --time-scale 0 --from 1 --to 1 --steps 3",
-            "zero.zel");
+  // From = to is a defined result; a time scale of 0 leaves no time step.
+  r = RunTo(dir, spectrum + " --from 1 --to 1 --steps 3", "same.zel");
   EXPECT_EQ(r.status, 0) << r.out;
+  r = RunTo(dir, spectrum + " --time-scale 0", "zero.zel");
+  EXPECT_EQ(r.status, 1);
+  EXPECT_THAT(r.out, HasSubstr("Times must increase!"));
 }
 
 TEST(RecordCommandsTest, FftWritesTheFrequencySpectrum) {
@@ -179,11 +183,12 @@ TEST(RecordCommandsTest, FftWritesTheFrequencySpectrum) {
   EXPECT_EQ(r.out, "Maximum at 2.93 Hz\n");
   EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
 
-  // A silent record has a spectrum of 0 / 0: NaN ordinates are written.
+  // A silent record has no spectrum to normalise: a message, no output.
   WriteAll(dir / "silent.dbs", "0, 0\n0.01, 0\n0.02, 0\n0.03, 0\n");
   const auto silent = RunTo(dir, "fft " + Quoted(dir / "silent.dbs"), "s.csv");
-  EXPECT_EQ(silent.status, 0) << silent.out;
-  EXPECT_THAT(ReadAll(dir / "s.csv"), HasSubstr("\n25,-nan\n50,-nan\n"));
+  EXPECT_EQ(silent.status, 1);
+  EXPECT_THAT(silent.out, HasSubstr("No frequency content!"));
+  EXPECT_FALSE(std::filesystem::exists(dir / "s.csv"));
 
   // One sample: no spectrum.
   WriteAll(dir / "one.dbs", "0, 1\n");

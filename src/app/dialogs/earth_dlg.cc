@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 #include <memory>
+#include <utility>
 
 #include "app/dialogs/ok_cancel_buttons.h"
 #include "core/document/c_format.h"
@@ -155,8 +156,10 @@ void EarthDlg::accept() {
   const std::string path = chooser_->ResolveRecordPath();
   follow_up.record_path = path;
   if (settings.kind == kCombinedDVA) follow_up.tripartite_follows = true;
-  std::FILE* file = OpenRecordFile(path, messages);
-  if (file == nullptr) {
+  InputFile file = OpenCheckedRecord(
+      path, [&](CZELwDoc& doc) { PrepareSpectrumDocument(doc, settings); },
+      TimeStepUse::kNeeded, messages);
+  if (!file.is_open()) {
     follow_up.tripartite_follows = false;  // no tripartite chart follows now
     return;
   }
@@ -164,22 +167,21 @@ void EarthDlg::accept() {
   CZELwDoc* doc = NewRecordDocument(host_, kNewDocumentResponseSpectrum);
   if (doc == nullptr) {
     follow_up.tripartite_follows = false;
-    std::fclose(file);
     QDialog::accept();
     return;
   }
   PrepareSpectrumDocument(*doc, settings);
-  Compute(*doc, file);
+  Compute(*doc, std::move(file));
   follow_up.tripartite_follows = false;
   QDialog::accept();
 }
 
-void EarthDlg::Compute(CZELwDoc& doc, std::FILE* file) {
+void EarthDlg::Compute(CZELwDoc& doc, InputFile file) {
   // Shown once the record has been read and the first periods are done;
   // gone when the spectra are complete.
   std::unique_ptr<DLG_ProgressBar> progress;
   ComputeResponseSpectrum(
-      doc, file, host_.messages(), [&](int position, int range) {
+      doc, std::move(file), host_.messages(), [&](int position, int range) {
         if (!progress) {
           progress = std::make_unique<DLG_ProgressBar>(this);
           progress->SetRange(0, range);

@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "app/dialogs/ok_cancel_buttons.h"
 #include "core/records/record_catalog.h"
@@ -33,17 +34,22 @@ void EQ_REC_DLG::accept() {
   follow_up.spectrum_follows = false;
   const std::string path = chooser_->ResolveRecordPath();
   follow_up.record_path = path;
-  std::FILE* file = OpenRecordFile(path, messages);
-  if (file == nullptr) return;
+  InputFile file = OpenCheckedRecord(
+      path,
+      [&](CZELwDoc& doc) {
+        PrepareRecordDocument(doc, amplitude, time_scale,
+                              chooser_->record_name());
+      },
+      TimeStepUse::kNotNeeded, messages);
+  if (!file.is_open()) return;
 
   CZELwDoc* doc = NewRecordDocument(host_, kNewDocumentRecord);
   if (doc == nullptr) {
-    std::fclose(file);
     QDialog::accept();
     return;
   }
   PrepareRecordDocument(*doc, amplitude, time_scale, chooser_->record_name());
-  ShowRecordCurve(*doc, file, messages);
+  ShowRecordCurve(*doc, std::move(file), messages);
   QDialog::accept();
 }
 

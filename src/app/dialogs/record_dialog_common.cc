@@ -1,11 +1,11 @@
 #include "app/dialogs/record_dialog_common.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRegularExpressionValidator>
+#include <utility>
 
 #include "core/document/c_format.h"
 #include "core/records/record_catalog.h"
@@ -128,13 +128,24 @@ std::string RecordChooser::ResolveRecordPath() {
   return record_path_;
 }
 
-std::FILE* OpenRecordFile(const std::string& path, MessageSink& messages) {
-  // A folder opens for reading here but holds no record.
-  std::FILE* file = QFileInfo(QFile::decodeName(path.c_str())).isDir()
-                        ? nullptr
-                        : std::fopen(path.c_str(), "r");
-  if (file == nullptr) messages.Show(kFileNotFoundMessage);
-  return file;
+InputFile OpenCheckedRecord(const std::string& path,
+                            const std::function<void(CZELwDoc&)>& prepare,
+                            TimeStepUse use, MessageSink& messages) {
+  InputFile file = InputFile::Open(path);
+  if (!file.is_open()) {
+    messages.ShowFileError(path, file.error());
+    return file;
+  }
+  CZELwDoc scratch;
+  prepare(scratch);
+  // The generator's own read shows the warnings of a good record.
+  MessageLog held;
+  if (ReadRecordFile(scratch, std::move(file), held, use) != 1) {
+    for (const std::string& text : held.texts()) messages.Show(text);
+    messages.Show(kRecordReadFailedMessage);
+    return InputFile();
+  }
+  return InputFile::Open(path);
 }
 
 CZELwDoc* NewRecordDocument(DialogHost& host, int mode) {

@@ -10,13 +10,15 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QWidget>
-#include <cstdio>
+#include <functional>
 #include <string>
 
 #include "app/dialogs/dialog_host.h"
 #include "core/document/curve_document.h"
+#include "core/document/input_file.h"
 #include "core/document/messages.h"
 #include "core/records/range_check.h"
+#include "core/records/record_reader.h"
 
 namespace zel::app {
 
@@ -89,9 +91,15 @@ class RecordChooser : public QWidget {
   std::string record_path_;
 };
 
-// Opens the record file for reading as text; shows "ERROR! File Not Found!"
-// and returns nullptr when it cannot be opened.
-std::FILE* OpenRecordFile(const std::string& path, MessageSink& messages);
+// Opens the record file and reads it once as the generator will, into a
+// scratch document that `prepare` sets up as the new one will be. A file
+// that does not open ("ERROR! File Not Found!") or a record the reader
+// refuses (its message, then "an Error occurred while reading data!") gives
+// a closed file: no document is to be made and the dialog stays open.
+// Otherwise the file, opened afresh, for the generator to read.
+InputFile OpenCheckedRecord(const std::string& path,
+                            const std::function<void(CZELwDoc&)>& prepare,
+                            TimeStepUse use, MessageSink& messages);
 
 // File New under `mode`: the new document, or nullptr after "Document
 // Identification failed!".

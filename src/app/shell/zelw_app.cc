@@ -2,7 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <cstdio>
+#include <utility>
 
 #include "app/shell/child_frame.h"
 #include "app/shell/command_table.h"
@@ -54,13 +54,13 @@ void CZELwApp::OnFileOpen() {
   const QString path =
       ui_.open_file(main_frame_.get(), QString::fromLatin1(kOpenFilter));
   if (path.isEmpty()) return;
-  std::FILE* file = std::fopen(QFile::encodeName(path).constData(), "r");
-  if (!file) {
-    messages().Show(kFileNotFoundMessage);
+  InputFile file = InputFile::Open(QFile::encodeName(path).toStdString());
+  if (!file.is_open()) {
+    messages().ShowFileError(file.name(), file.error());
     return;
   }
   CZELwDoc* doc = NewDocument(kNewDocumentFromFile);
-  if (ReadDataFile(*doc, file, messages()) == 0) {
+  if (ReadDataFile(*doc, std::move(file), messages()) == 0) {
     messages().Show(kReadFailed);
     // The chart shows whatever was read before the failure.
     doc->UpdateAllViews();

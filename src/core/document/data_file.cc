@@ -1,8 +1,9 @@
 #include "core/document/data_file.h"
 
-#include <cstdio>
-#include <memory>
+#include <algorithm>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "core/document/c_format.h"
 #include "core/document/replacing_file.h"
@@ -12,23 +13,41 @@
 namespace zel {
 namespace {
 
-struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using FilePtr = std::unique_ptr<std::FILE, FileCloser>;
+bool IsBlankOrTab(char c) { return c == ' ' || c == '\t'; }
+
+// The parts of `text` between commas.
+std::vector<std::string_view> CommaParts(std::string_view text) {
+  std::vector<std::string_view> parts;
+  for (;;) {
+    const std::size_t comma = text.find(',');
+    parts.push_back(text.substr(0, comma));
+    if (comma == std::string_view::npos) return parts;
+    text.remove_prefix(comma + 1);
+  }
+}
+
+// Where the reader's token of a part begins: after its leading blanks.
+std::size_t TokenStart(std::string_view part) {
+  std::size_t start = 0;
+  while (start < part.size() && IsBlankOrTab(part[start])) ++start;
+  return start;
+}
 
 // One pass of the reader over an open file.
 class DataFileReader {
  public:
-  DataFileReader(CZELwDoc& doc, std::FILE* file, MessageSink& messages)
-      : doc_(doc), file_(file), messages_(messages) {}
+  DataFileReader(CZELwDoc& doc, InputFile& file, MessageSink& messages)
+      : doc_(doc), file_(file), tokens_(file), messages_(messages) {}
 
   int Read();
 
  private:
   // Reads one token; `at_end_` tells whether the input is exhausted.
   const std::string& Next() {
-    at_end_ = ReadToken(file_.get(), token_) < 0 && std::feof(file_.get());
+    at_end_ = tokens_.ReadToken(token_) < 0 && !tokens_.too_long();
+    if (tokens_.too_long() && too_long_line_ == 0) {
+      too_long_line_ = tokens_.line();
+    }
     return token_;
   }
   // Reads the "*" and the keyword after it, trimmed and upper-cased.
@@ -51,8 +70,18 @@ class DataFileReader {
     Next();
     return NextWord();
   }
+  // Shows `text`, or, when a token was too long to read (which misaligns
+  // everything after it), says so instead.
   int Fail(const char* text) {
+    if (too_long_line_ != 0) return LineTooLong();
     messages_.Show(text);
+    return 0;
+  }
+  int LineTooLong() {
+    messages_.Show(CFormat(
+        "Error : Line too long! %s, line %d: a text or number may have at "
+        "most %zu characters.",
+        file_.name().c_str(), too_long_line_, kMaxTokenLength));
     return 0;
   }
   void ReadTitles(std::string& keyword);
@@ -61,10 +90,12 @@ class DataFileReader {
   bool ReadPoints(int c);
 
   CZELwDoc& doc_;
-  FilePtr file_;
+  InputFile& file_;
+  Tokenizer tokens_;
   MessageSink& messages_;
   std::string token_;
   bool at_end_ = false;
+  int too_long_line_ = 0;  // where a token was cut at the length limit
 };
 
 void DataFileReader::ReadTitles(std::string& keyword) {
@@ -97,6 +128,7 @@ bool DataFileReader::ReadPoints(int c) {
   DataStore& store = doc_.store();
   std::string token = Next();
   while (token != "*" && !at_end_) {
+    if (too_long_line_ != 0) return LineTooLong() != 0;
     if (!store.Append(2 * c, AtoF(token))) {
       messages_.Show(
           CFormat("Error : Too many points! A curve holds at most "
@@ -105,7 +137,7 @@ bool DataFileReader::ReadPoints(int c) {
       return false;
     }
     if (Next() != ",") {
-      messages_.Show("Error : Wrong Format!");
+      Fail("Error : Wrong Format!");
       return false;
     }
     const double y = AtoF(Next());
@@ -137,6 +169,7 @@ int DataFileReader::Read() {
 
   std::string keyword = NextKeyword();
   ReadTitles(keyword);
+  if (too_long_line_ != 0) return LineTooLong();
   doc_.RefreshChartTitle();
   doc_.SetTitle(doc_.title);
 
@@ -180,9 +213,9 @@ int DataFileReader::Read() {
     if (!ReadPoints(c)) return 0;
     keyword = NextWord();
   }
+  if (too_long_line_ != 0) return LineTooLong();
 
   doc_.loaded = 1;
-  file_.reset();
   doc_.ApplySeriesStyles();
   if (doc_.damping_flag != 0) doc_.SetDampingLegend();
   doc_.UpdateAllViews();
@@ -191,54 +224,83 @@ int DataFileReader::Read() {
 
 }  // namespace
 
+std::string WrittenTitle(const std::string& title, bool axis) {
+  std::string text = ExpandPercentEscapes(title);
+  for (char& c : text) {
+    if (c == '*' || c == '\r' || c == '\n') c = ' ';
+    if (axis && c == ',') c = ';';
+  }
+  std::string out;
+  for (std::string_view part : CommaParts(text)) {
+    const std::size_t start = TokenStart(part);
+    if (start == part.size()) continue;  // a comma with nothing after it
+    if (!out.empty()) out += ',';
+    if (part.size() - start <= kMaxTokenLength) {
+      out += part;
+      continue;
+    }
+    std::size_t cut = start + kMaxTokenLength - 3;
+    while (cut > start &&
+           (static_cast<unsigned char>(part[cut]) & 0xC0) == 0x80) {
+      --cut;  // not inside a UTF-8 character
+    }
+    out.append(part.substr(0, cut));
+    out += "...";
+  }
+  return out;
+}
+
+bool TitleReadsBack(std::string_view title) {
+  if (title.find_first_of("*\r\n") != std::string_view::npos) return false;
+  for (std::string_view part : CommaParts(title)) {
+    if (part.size() - TokenStart(part) > kMaxTokenLength) return false;
+  }
+  return true;
+}
+
 bool WriteDataFile(const CZELwDoc& doc, const std::string& path,
                    MessageSink& messages) {
-  ReplacingFile file(path);
-  if (!file.is_open()) {
-    messages.Show(kFileNotFoundMessage);
-    return false;
+  std::size_t points = 0;
+  for (int c = 0; c < doc.curve_count && c < kMaxCurves; ++c) {
+    points += static_cast<std::size_t>(std::max(doc.point_count[c], 0));
   }
-  std::string out = "*ZELw\n";
-  for (const auto& [keyword, text] :
-       {std::pair{"*TITLE, ", &doc.title}, std::pair{"*TITLE, ", &doc.subtitle},
-        std::pair{"*X-AXIS, ", &doc.AxisTitle(0)},
-        std::pair{"*Y-AXIS, ", &doc.AxisTitle(1)}}) {
-    out += ExpandPercentEscapes(keyword + *text + "\n");
-  }
+  std::string out;
+  out.reserve(1024 + points * 30);
+  out += "*ZELw\n";
+  out += "*TITLE, " + WrittenTitle(doc.title) + "\n";
+  out += "*TITLE, " + WrittenTitle(doc.subtitle) + "\n";
+  out += "*X-AXIS, " + WrittenTitle(doc.AxisTitle(0), true) + "\n";
+  out += "*Y-AXIS, " + WrittenTitle(doc.AxisTitle(1), true) + "\n";
   out += "*UNIT&TYPE, " + doc.unit + ", " + doc.type + "\n";
   out += CFormat("*FLAGS, %d, %d\n", doc.tripartite, doc.damping_flag);
-  bool ok = file.Write(out);
 
   const DataStore& store = doc.store();
-  for (int c = 0; ok && c < doc.curve_count && c < kMaxCurves; ++c) {
-    out = "*DATA\n";
+  for (int c = 0; c < doc.curve_count && c < kMaxCurves; ++c) {
+    out += "*DATA\n";
     if (doc.damping_flag == 1) {
       out += CFormat("*DAMPING, %1.2f\n", doc.damping[c]);
     }
-    for (int i = 0; ok && i < doc.point_count[c]; ++i) {
+    for (int i = 0; i < doc.point_count[c]; ++i) {
       const double y = store.Value(i, 2 * c + 1);
-      out += FormatDataNumber(store.Value(i, 2 * c));
+      AppendDataNumber(out, store.Value(i, 2 * c));
       out += y < 0 ? "\t," : "\t, ";
-      out += FormatDataNumber(y);
+      AppendDataNumber(out, y);
       out += '\n';
-      if (out.size() > (1 << 16)) {
-        ok = file.Write(out);
-        out.clear();
-      }
     }
-    ok = ok && file.Write(out);
   }
-  ok = ok && file.Write("*ENDDATA");
-  if (!(ok && file.Commit())) {
-    messages.Show(kFileNotFoundMessage);
+  out += "*ENDDATA";
+
+  ReplacingFile file(path);
+  if (!(file.Write(out) && file.Commit())) {
+    messages.ShowFileError(path, file.error());
     return false;
   }
   return true;
 }
 
-int ReadDataFile(CZELwDoc& doc, std::FILE* file, MessageSink& messages) {
-  if (file == nullptr) {
-    messages.Show(kFileNotFoundMessage);
+int ReadDataFile(CZELwDoc& doc, InputFile file, MessageSink& messages) {
+  if (!file.is_open()) {
+    messages.ShowFileError(file.name(), file.error());
     return 0;
   }
   return DataFileReader(doc, file, messages).Read();
@@ -246,7 +308,7 @@ int ReadDataFile(CZELwDoc& doc, std::FILE* file, MessageSink& messages) {
 
 int ReadDataFile(CZELwDoc& doc, const std::string& path,
                  MessageSink& messages) {
-  return ReadDataFile(doc, std::fopen(path.c_str(), "r"), messages);
+  return ReadDataFile(doc, InputFile::Open(path), messages);
 }
 
 }  // namespace zel

@@ -1,5 +1,7 @@
 #include "core/document/tokenizer.h"
 
+#include <algorithm>
+
 namespace zel {
 namespace {
 
@@ -7,51 +9,74 @@ bool IsBlank(int ch) {
   return ch == ' ' || ch == '\r' || ch == '\t' || ch == '\n';
 }
 
+bool IsPlain(char c) {
+  return c != '*' && c != ',' && c != '\r' && c != '\n' && c != '\0';
+}
+
 }  // namespace
 
-int ReadToken(std::FILE* file, std::string& token) {
+bool Tokenizer::Refill() {
+  next_ = 0;
+  end_ = file_.Read(buffer_.data(), buffer_.size());
+  return end_ > 0;
+}
+
+int Tokenizer::ReadToken(std::string& token) {
   token.clear();
+  too_long_ = false;
   int ch;
   do {
-    ch = getc_unlocked(file);
+    ch = Get();
   } while (IsBlank(ch));
-  if (ch == EOF) return -1;
+  if (ch == kEnd) return -1;
 
   while (ch == '*') {
-    const int next = getc_unlocked(file);
+    token_line_ = line_;
+    const int next = Get();
     if (next != '*') {
-      if (next != EOF) std::ungetc(next, file);
+      if (next != kEnd) Unget();
       token = "*";
       return 1;
     }
     // "**" starts a comment that runs to the end of the line. The character
     // after it is taken as it is, without skipping blanks.
     do {
-      ch = getc_unlocked(file);
-    } while (ch != '\n' && ch != EOF);
-    if (ch == EOF) return -1;
-    ch = getc_unlocked(file);
-    if (ch == EOF) return -1;
+      ch = Get();
+    } while (ch != '\n' && ch != kEnd);
+    if (ch == kEnd) return -1;
+    ch = Get();
+    if (ch == kEnd) return -1;
   }
 
+  // A line feed taken after a comment has already moved the count on.
+  token_line_ = ch == '\n' ? line_ - 1 : line_;
   if (ch == ',') {
     token = ",";
     return 1;
   }
 
   for (;;) {
-    if (ch == EOF) return -1;
+    if (ch == kEnd) return -1;
     if (ch == '*' || ch == ',') {
-      std::ungetc(ch, file);
+      Unget();
       return 1;
     }
     if (ch == '\r' || ch == '\n') return 1;
     if (token.size() == kMaxTokenLength) {
-      std::ungetc(ch, file);
+      Unget();
+      too_long_ = true;
       return -1;
     }
     token.push_back(static_cast<char>(ch));
-    ch = getc_unlocked(file);
+    // The plain characters that follow go over in one piece; line feeds and
+    // NUL bytes are left to Get, which counts them.
+    const std::size_t limit =
+        std::min(end_, next_ + (kMaxTokenLength - token.size()));
+    std::size_t run = next_;
+    while (run < limit && IsPlain(buffer_[run])) ++run;
+    token.append(buffer_.data() + next_, run - next_);
+    next_ = run;
+    ch = Get();
   }
 }
 

@@ -34,7 +34,10 @@ void FinishChart(CZELwDoc& doc, const char* x_title, const char* y_title,
   doc.UpdateAllViews();
 }
 
-void ShowFrequencySpectrum(CZELwDoc& doc, unsigned count) {
+// Shows the spectrum; false, leaving the document as it was, after a
+// message when the record has no frequency content to normalise by.
+bool ShowFrequencySpectrum(CZELwDoc& doc, unsigned count,
+                           MessageSink& messages) {
   const unsigned n = LargestPowerOfTwo(count);
   std::vector<double> real_in(n);
   std::vector<double> real_out(n);
@@ -57,6 +60,17 @@ void ShowFrequencySpectrum(CZELwDoc& doc, unsigned count) {
       largest_at = df * k;
     }
   }
+  if (largest == 0.0) {
+    messages.Show(
+        CFormat("Error : No frequency content! The first %u samples "
+                "of the record are all equal.",
+                n));
+    return false;
+  }
+  if (!std::isfinite(largest)) {
+    messages.Show("Error : The record's values are too large to transform!");
+    return false;
+  }
   doc.x_axis_step = df;
   // The curve is rebuilt: no time-history value may linger past its end.
   doc.store().Clear();
@@ -66,6 +80,7 @@ void ShowFrequencySpectrum(CZELwDoc& doc, unsigned count) {
   FinishChart(doc, "Frequency (Hz)", "Normalized value", "Frequency Spectrum",
               CFormat("Maximum at %3.2f Hz", largest_at));
   doc.frequency_mode = 1;
+  return true;
 }
 
 void ShowTimeHistory(CZELwDoc& doc) {
@@ -91,8 +106,16 @@ bool SwitchTimeFrequency(CZELwDoc& doc, MessageSink& messages) {
     messages.Show("Error : Too few points for a frequency spectrum!");
     return false;
   }
-  ShowFrequencySpectrum(doc, static_cast<unsigned>(count));
-  return true;
+  // The time step is known from the fourth sample on; the time scale acts
+  // on it once more in the frequency step.
+  const double step = doc.record_time_step * doc.time_scale;
+  if (!(step > 0.0 && std::isfinite(step) && std::isfinite(1.0 / step))) {
+    messages.Show(
+        "Error : No time step! A frequency spectrum needs at least 4 samples "
+        "and a positive time scale.");
+    return false;
+  }
+  return ShowFrequencySpectrum(doc, static_cast<unsigned>(count), messages);
 }
 
 }  // namespace zel

@@ -12,9 +12,10 @@ namespace zel {
 // and its frequency spectrum (frequency_mode 1). Does nothing in a document
 // that is not a record document (results_in_g 0). The spectrum covers the
 // first 2^m samples, the largest power of two not above the record length;
-// the transform buffers grow with it. A record of fewer than two samples has
-// no spectrum: a message, and the document stays as it is. Returns true when
-// the document was switched.
+// the transform buffers grow with it. A record with no spectrum (fewer than
+// four samples, so no time step, or all the transformed samples equal) gets
+// a message, and the document stays as it is. Returns true when the
+// document was switched.
 bool SwitchTimeFrequency(CZELwDoc& doc, MessageSink& messages);
 
 }  // namespace zel

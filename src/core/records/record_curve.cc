@@ -1,6 +1,7 @@
 #include "core/records/record_curve.h"
 
 #include <cmath>
+#include <utility>
 
 #include "core/document/c_format.h"
 #include "core/records/chart_setup.h"
@@ -31,9 +32,9 @@ RecordPeak StoreTimeHistory(CZELwDoc& doc) {
   return peak;
 }
 
-int ShowRecordCurve(CZELwDoc& doc, std::FILE* file, MessageSink& messages) {
-  if (ReadRecordFile(doc, file, messages) != 1) {
-    messages.Show("an Error occurred while reading data!");
+int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages) {
+  if (ReadRecordFile(doc, std::move(file), messages) != 1) {
+    messages.Show(kRecordReadFailedMessage);
     return 0;
   }
   doc.record_flag = 1;

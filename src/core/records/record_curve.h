@@ -2,10 +2,10 @@
 #ifndef ZEL_CORE_RECORDS_RECORD_CURVE_H_
 #define ZEL_CORE_RECORDS_RECORD_CURVE_H_
 
-#include <cstdio>
 #include <string>
 
 #include "core/document/curve_document.h"
+#include "core/document/input_file.h"
 #include "core/document/messages.h"
 
 namespace zel {
@@ -15,11 +15,11 @@ namespace zel {
 void PrepareRecordDocument(CZELwDoc& doc, double amplitude_scale,
                            double time_scale, const std::string& record_name);
 
-// Reads the record from `file` (taking ownership) and makes it the
-// document's first curve, titled and labelled with its peak. Returns 1 on
-// success; on failure shows "an Error occurred while reading data!" after
-// the reader's own message, leaves the curves empty and returns 0.
-int ShowRecordCurve(CZELwDoc& doc, std::FILE* file, MessageSink& messages);
+// Reads the record from `file` and makes it the document's first curve,
+// titled and labelled with its peak. Returns 1 on success; on failure shows
+// "an Error occurred while reading data!" after the reader's own message,
+// leaves the curves empty and returns 0.
+int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages);
 
 struct RecordPeak {
   double magnitude = 0.0;  // |acceleration|

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "core/records/chart_setup.h"
@@ -108,14 +109,12 @@ void PrepareSpectrumDocument(CZELwDoc& doc, const SpectrumSettings& settings) {
   doc.damping_flag = 1;
 }
 
-int ComputeResponseSpectrum(CZELwDoc& doc, std::FILE* file,
+int ComputeResponseSpectrum(CZELwDoc& doc, InputFile file,
                             MessageSink& messages,
                             const SpectrumProgress& progress) {
-  if (!CheckSettings(doc, messages)) {
-    if (file != nullptr) std::fclose(file);
-    return 0;
-  }
-  if (ReadRecordFile(doc, file, messages) != 1) {
+  if (!CheckSettings(doc, messages)) return 0;
+  if (ReadRecordFile(doc, std::move(file), messages, TimeStepUse::kNeeded) !=
+      1) {
     messages.Show("an Error occurred while reading data!");
     return 0;
   }

@@ -4,11 +4,11 @@
 #define ZEL_CORE_RECORDS_RESPONSE_SPECTRUM_H_
 
 #include <array>
-#include <cstdio>
 #include <functional>
 #include <string>
 
 #include "core/document/curve_document.h"
+#include "core/document/input_file.h"
 #include "core/document/messages.h"
 
 namespace zel {
@@ -41,14 +41,15 @@ void PrepareSpectrumDocument(CZELwDoc& doc, const SpectrumSettings& settings);
 // it runs through the range once per damping ratio.
 using SpectrumProgress = std::function<void(int position, int range)>;
 
-// Reads the record from `file` (taking ownership) and stores, for damping
+// Reads the record from `file` and stores, for damping
 // curve k and period j, the point (period, spectral value) through SetPoint
 // without the last mark; then titles the chart and sets the "Damping :"
 // legend. Returns 1 when the spectra were computed, 0 after a message (read
 // failure, or a period count outside 1..5000, a damping count outside 1..6
 // or an unknown kind, which the dialog never passes). Damping ratios of 1 or
-// more give non-finite ordinates, as do records too short for a time step.
-int ComputeResponseSpectrum(CZELwDoc& doc, std::FILE* file,
+// more give non-finite ordinates; records too short for a time step are
+// refused by the reader.
+int ComputeResponseSpectrum(CZELwDoc& doc, InputFile file,
                             MessageSink& messages,
                             const SpectrumProgress& progress = {});
 

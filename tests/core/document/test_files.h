@@ -2,21 +2,22 @@
 #ifndef ZEL_TESTS_CORE_DOCUMENT_TEST_FILES_H_
 #define ZEL_TESTS_CORE_DOCUMENT_TEST_FILES_H_
 
-#include <cstdio>
+#include <stdlib.h>
+
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
 
+#include "core/document/input_file.h"
 #include "core/document/messages.h"
 
 namespace zel::testing {
 
-// A FILE* reading from `bytes`; `bytes` must outlive the stream.
-inline std::FILE* OpenBytes(const std::string& bytes) {
-  if (bytes.empty()) return std::fopen("/dev/null", "r");
-  return fmemopen(const_cast<char*>(bytes.data()), bytes.size(), "r");
+// A file reading `bytes`, named "test.dbs" in messages.
+inline InputFile OpenBytes(std::string bytes) {
+  return InputFile::FromBytes(std::move(bytes), "test.dbs");
 }
 
 // What a reader returned and the messages it showed, in order.
@@ -25,7 +26,7 @@ struct ReadOutcome {
   std::vector<std::string> messages;
 };
 
-// Runs `reader(file, messages)` over a stream of `bytes`.
+// Runs `reader(file, messages)` over a file of `bytes`.
 template <class Reader>
 ReadOutcome ReadBytesWith(const std::string& bytes, Reader reader) {
   MessageLog log;

@@ -13,68 +13,69 @@ namespace {
 struct Token {
   int result;
   std::string text;
+  int line;
   bool operator==(const Token&) const = default;
 };
 
-std::vector<Token> Tokenize(const std::string& bytes, int limit = 100) {
-  std::FILE* file = testing::OpenBytes(bytes);
+std::vector<Token> Tokenize(const std::string& bytes) {
+  InputFile file = testing::OpenBytes(bytes);
+  Tokenizer tokenizer(file);
   std::vector<Token> tokens;
   std::string token;
-  while (limit-- > 0) {
-    const int result = ReadToken(file, token);
-    tokens.push_back({result, token});
-    if (result < 0 && std::feof(file)) break;
+  for (int limit = 100; limit > 0; --limit) {
+    const int result = tokenizer.ReadToken(token);
+    tokens.push_back({result, token, tokenizer.line()});
+    if (result < 0 && !tokenizer.too_long()) break;
   }
-  std::fclose(file);
   return tokens;
 }
 
-TEST(TokenizerTest, SplitsKeywordsCommasAndValues) {
-  EXPECT_EQ(Tokenize("*TITLE, El Centro  \r\n 1.0\t, -2.5\n*ENDDATA"),
-            (std::vector<Token>{{1, "*"},
-                                {1, "TITLE"},
-                                {1, ","},
-                                {1, "El Centro  "},
-                                {1, "1.0\t"},
-                                {1, ","},
-                                {1, "-2.5"},
-                                {1, "*"},
-                                {-1, "ENDDATA"}}));
+TEST(TokenizerTest, SplitsKeywordsCommasAndValuesAndCountsLines) {
+  EXPECT_EQ(Tokenize("*TITLE, El Centro  \r\n 1.0\t, -2.5\n\n*ENDDATA"),
+            (std::vector<Token>{{1, "*", 1},
+                                {1, "TITLE", 1},
+                                {1, ",", 1},
+                                {1, "El Centro  ", 1},
+                                {1, "1.0\t", 2},
+                                {1, ",", 2},
+                                {1, "-2.5", 2},
+                                {1, "*", 4},
+                                {-1, "ENDDATA", 4}}));
 }
 
 TEST(TokenizerTest, CommentLinesAreSkippedWhereverATokenMayBegin) {
-  EXPECT_EQ(
-      Tokenize("** heading\n*FLAGS, 1\n  ** note, with * and ,\n*DATA"),
-      (std::vector<Token>{
-          {1, "*"}, {1, "FLAGS"}, {1, ","}, {1, "1"}, {1, "*"}, {-1, "DATA"}}));
+  EXPECT_EQ(Tokenize("** heading\n*FLAGS, 1\n  ** note, with * and ,\n*DATA"),
+            (std::vector<Token>{{1, "*", 2},
+                                {1, "FLAGS", 2},
+                                {1, ",", 2},
+                                {1, "1", 2},
+                                {1, "*", 4},
+                                {-1, "DATA", 4}}));
   // The character after a comment is taken without skipping blanks: an empty
   // line after a comment reads as an empty token.
-  EXPECT_EQ(Tokenize("**c\n\nA"), (std::vector<Token>{{1, ""}, {-1, "A"}}));
-  EXPECT_EQ(Tokenize("** only a comment"), (std::vector<Token>{{-1, ""}}));
+  EXPECT_EQ(Tokenize("**c\n\nA"),
+            (std::vector<Token>{{1, "", 2}, {-1, "A", 3}}));
+  EXPECT_EQ(Tokenize("** only a comment").front().result, -1);
 }
 
 TEST(TokenizerTest, LongTokensAreCutAt120CharactersWithoutLosingTheRest) {
-  const std::string line(250, 'x');
-  const std::vector<Token> tokens = Tokenize(line + "\n,");
+  const std::vector<Token> tokens = Tokenize(std::string(250, 'x') + "\n,");
   ASSERT_EQ(tokens.size(), 5u);
-  EXPECT_EQ(tokens[0], (Token{-1, std::string(120, 'x')}));
-  EXPECT_EQ(tokens[1], (Token{-1, std::string(120, 'x')}));
-  EXPECT_EQ(tokens[2], (Token{1, std::string(10, 'x')}));
-  EXPECT_EQ(tokens[3], (Token{1, ","}));
-  EXPECT_EQ(tokens[4], (Token{-1, ""}));
+  EXPECT_EQ(tokens[0], (Token{-1, std::string(120, 'x'), 1}));
+  EXPECT_EQ(tokens[1], (Token{-1, std::string(120, 'x'), 1}));
+  EXPECT_EQ(tokens[2], (Token{1, std::string(10, 'x'), 1}));
+  EXPECT_EQ(tokens[3], (Token{1, ",", 2}));
+  EXPECT_EQ(tokens[4].result, -1);
+  EXPECT_EQ(Tokenize(std::string(120, 'x') + "\n").front().result, 1);
 }
 
-TEST(TokenizerTest, TrimAndUpperCase) {
-  std::string text = "unit&type \t\r\n";
-  TrimRight(text);
-  MakeUpper(text);
-  EXPECT_EQ(text, "UNIT&TYPE");
-  std::string blank = " \t";
-  TrimRight(blank);
-  EXPECT_EQ(blank, "");
-  std::string accented = "gr\xC3\xA4v";
-  MakeUpper(accented);
-  EXPECT_EQ(accented, "GR\xC3\xA4V");
+TEST(TokenizerTest, NulBytesAreNotedWithTheirLine) {
+  InputFile file = testing::OpenBytes(std::string("0, 1\n1,\0 2\n", 11));
+  Tokenizer tokenizer(file);
+  std::string token;
+  while (tokenizer.ReadToken(token) == 1) {
+  }
+  EXPECT_EQ(tokenizer.nul_line(), 2);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdio>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/document/test_files.h"
@@ -48,8 +49,8 @@ inline std::vector<double> Sine(int n, double hz, double dt,
 using Read = ReadOutcome;
 
 inline Read ReadRecord(CZELwDoc& doc, const std::string& bytes) {
-  return ReadBytesWith(bytes, [&](std::FILE* f, MessageSink& m) {
-    return ReadRecordFile(doc, f, m);
+  return ReadBytesWith(bytes, [&](InputFile f, MessageSink& m) {
+    return ReadRecordFile(doc, std::move(f), m);
   });
 }
 
@@ -58,8 +59,8 @@ inline Read ShowRecord(CZELwDoc& doc, const std::string& bytes,
                        double amplitude_scale = 1.0, double time_scale = 1.0,
                        const std::string& name = "Sine") {
   PrepareRecordDocument(doc, amplitude_scale, time_scale, name);
-  return ReadBytesWith(bytes, [&](std::FILE* f, MessageSink& m) {
-    return ShowRecordCurve(doc, f, m);
+  return ReadBytesWith(bytes, [&](InputFile f, MessageSink& m) {
+    return ShowRecordCurve(doc, std::move(f), m);
   });
 }
 
