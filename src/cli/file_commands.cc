@@ -1,12 +1,14 @@
 #include "cli/file_commands.h"
 
+#include <cctype>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <string>
 
-#include "cli/output_file.h"
 #include "cli/stderr_messages.h"
 #include "core/document/c_format.h"
+#include "core/document/csv_export.h"
 #include "core/document/curve_document.h"
 #include "core/document/data_file.h"
 
@@ -40,6 +42,25 @@ void PrintInfo(const CZELwDoc& doc) {
   }
 }
 
+// Why `out` cannot be what convert writes, or "" when it can. A document read
+// from a .zel file holds its values but no point counts, so as a .zel file
+// it would be written without points; and the input must survive.
+std::string ConvertRefusal(const std::string& in, const std::string& out) {
+  std::string extension = std::filesystem::path(out).extension().string();
+  for (char& c : extension) {
+    c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  }
+  if (extension == ".zel") {
+    return "convert writes CSV columns, not a .zel file: name the output "
+           ".csv";
+  }
+  std::error_code error;
+  if (in == out || std::filesystem::equivalent(in, out, error)) {
+    return "convert would write over its input: name another output file";
+  }
+  return "";
+}
+
 }  // namespace
 
 void AddFileCommands(CLI::App& app) {
@@ -60,10 +81,15 @@ void AddFileCommands(CLI::App& app) {
   convert->add_option("input", *in, "Data file to read")->required();
   convert->add_option("output", *out, "CSV file to write")->required();
   convert->callback([in, out] {
+    if (const std::string refusal = ConvertRefusal(*in, *out);
+        !refusal.empty()) {
+      std::cerr << refusal << '\n';
+      throw CLI::RuntimeError(1);
+    }
     CZELwDoc doc;
     if (!Load(*in, doc)) throw CLI::RuntimeError(1);
     StderrMessages messages;
-    if (!SaveDocument(doc, *out, messages)) throw CLI::RuntimeError(1);
+    if (!WriteCsvFile(doc, *out, messages)) throw CLI::RuntimeError(1);
   });
 }
 

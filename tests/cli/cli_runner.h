@@ -14,12 +14,10 @@ struct CliResult {
   std::string out;  // standard output and standard error, in that order
 };
 
-// `arguments` is appended to the program path as a shell command line.
-inline CliResult RunCli(const std::string& arguments) {
+// Runs `command` in the shell.
+inline CliResult RunShell(const std::string& command) {
   CliResult result;
-  const std::string command =
-      std::string("'") + ZEL_CLI_PATH + "' " + arguments + " 2>&1";
-  std::FILE* pipe = popen(command.c_str(), "r");
+  std::FILE* pipe = popen((command + " 2>&1").c_str(), "r");
   if (pipe == nullptr) return result;
   char buffer[4096];
   std::size_t n;
@@ -29,6 +27,11 @@ inline CliResult RunCli(const std::string& arguments) {
   const int status = pclose(pipe);
   result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   return result;
+}
+
+// `arguments` is appended to the program path as a shell command line.
+inline CliResult RunCli(const std::string& arguments) {
+  return RunShell(std::string("'") + ZEL_CLI_PATH + "' " + arguments);
 }
 
 }  // namespace zel::testing
