@@ -1,9 +1,18 @@
-// zel: the desktop program.
+// zel: the desktop program; `zel --export` draws a saved chart headless.
 #include <QApplication>
 
+#include "app/shell/headless_export.h"
 #include "app/shell/zelw_app.h"
 
 int main(int argc, char* argv[]) {
+  if (zel::app::WantsExport(argc, argv)) {
+    // No window and no display: draw on the offscreen platform.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication qt_app(argc, argv);
+    QStringList arguments = QApplication::arguments();
+    arguments.removeFirst();
+    return zel::app::RunExport(arguments);
+  }
   QApplication qt_app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("ZEL"));
   QApplication::setOrganizationName(

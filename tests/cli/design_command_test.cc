@@ -9,6 +9,7 @@
 #include "core/codes/code_registry.h"
 #include "core/codes/ibc2000.h"
 #include "core/codes/kds2019.h"
+#include "core/codes/newmark_hall.h"
 #include "core/codes/us_codes.h"
 #include "core/document/data_file.h"
 #include "core/document/test_files.h"
@@ -75,6 +76,11 @@ TEST(DesignCommandTest, SameBytesAsTheCoreGenerators) {
           GenerateKds2019,
           {.site = 5, .fa = 1.5, .fv = 2.0, .sds = 0.5, .sd1 = 0.3, .grid = {}},
           dir));
+  EXPECT_EQ(RunDesign("newmark-hall --damping 0.02,0.05 --scale 0.5 --type "
+                      "ACCEL",
+                      dir),
+            Saved(GenerateNewmarkHall,
+                  {.scale = 0.5, .type = 0, .damping = {0.02, 0.05}}, dir));
 }
 
 TEST(DesignCommandTest, ListsCodesAndWritesCsv) {
@@ -120,6 +126,8 @@ TEST(DesignCommandTest, BadInputGivesItsMessageAndNoFile) {
   fails("ubc97 --ca x", "'x' is not a number");
   fails("ubc97 --steps 1.5", "'1.5' is not a whole number");
   fails("kds2019 --site S7", "'S7' is not one of S1, S2, S3, S4, S5, S6");
+  fails("newmark-hall --damping 0.05,0.25", "The damping ratio 0.25 must be");
+  fails("newmark-hall --damping 0,0,0,0,0,0,0", "at most 6 values");
   fails("eurocode", "");
   const auto r = RunCli("design");
   EXPECT_NE(r.status, 0);

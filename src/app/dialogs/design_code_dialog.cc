@@ -8,6 +8,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -175,6 +176,11 @@ void DesignCodeDialog::AddListField(Field& field, QGridLayout& grid, int row) {
   field.insert->setObjectName(name + QStringLiteral("_insert"));
   field.list = new QListWidget;
   field.list->setObjectName(name);
+  field.list->setToolTip(QStringLiteral("Delete removes the selected value"));
+  field.list->installEventFilter(this);
+  edit_names_[field.list] = field.param->name;
+  field.edit->installEventFilter(this);
+  edit_names_[field.edit] = field.param->name;
   field.list->setMaximumHeight(field.list->fontMetrics().lineSpacing() *
                                    (field.param->capacity + 1) +
                                8);
@@ -323,6 +329,23 @@ void DesignCodeDialog::OnFieldChanged(const std::string& name, bool typing) {
 }
 
 bool DesignCodeDialog::eventFilter(QObject* watched, QEvent* event) {
+  // In a list field Enter inserts the typed value (instead of pressing OK)
+  // and Delete takes the selected value out.
+  if (event->type() == QEvent::KeyPress && edit_names_.count(watched) > 0) {
+    Field& field = fields_.at(edit_names_.at(watched));
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (field.list != nullptr && watched == field.edit &&
+        (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+      OnInsert(field);
+      return true;
+    }
+    if (watched == field.list && key == Qt::Key_Delete &&
+        field.list->currentItem() != nullptr) {
+      delete field.list->takeItem(field.list->currentRow());
+      OnFieldChanged(field.param->name);
+      return true;
+    }
+  }
   if (event->type() == QEvent::FocusOut) {
     const auto it = edit_names_.find(watched);
     if (it != edit_names_.end() && refused_while_typing_.count(it->second)) {

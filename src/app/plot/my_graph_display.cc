@@ -102,6 +102,4 @@ void MyGraphDisplay::DrawTicks(QCPPainter* painter, const QVector<int>& pixels,
   }
 }
 
-void MyGraphDisplay::DrawDiagonalGrid(QCPPainter* painter) { (void)painter; }
-
 }  // namespace zel::app

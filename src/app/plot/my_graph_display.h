@@ -9,6 +9,7 @@
 #include <QRect>
 #include <QVector>
 
+#include "core/plot/log_axis.h"
 #include "qcustomplot.h"
 
 namespace zel::app {
@@ -46,6 +47,9 @@ class MyGraphDisplay : public QCPLayerable {
   int GetDiagonalGrid() const { return diagonal_grid_; }
   int tripartite() const { return tripartite_; }
   double gravity_factor() const { return gravity_factor_; }
+  // The reference axes and their labels as last drawn.
+  const CLogAxis& displacement_axis() const { return displacement_axis_; }
+  const CLogAxis& acceleration_axis() const { return acceleration_axis_; }
 
   // The plot rectangle in the drawing surface's pixels, and the scales.
   QRect PlotRect() const;
@@ -63,7 +67,7 @@ class MyGraphDisplay : public QCPLayerable {
 
   // The diagonal (displacement and acceleration) grid of a tripartite chart,
   // drawn after the ordinary grid while the diagonal-grid flag is set. The
-  // tripartite axes draw here; the base class draws nothing.
+  // tripartite axes draw here (diagonal_grid.cc).
   virtual void DrawDiagonalGrid(QCPPainter* painter);
 
  private:
@@ -73,6 +77,8 @@ class MyGraphDisplay : public QCPLayerable {
   QCPAxisRect* rect_;
   Style style_;
   int tripartite_ = 0;
+  CLogAxis displacement_axis_;
+  CLogAxis acceleration_axis_;
   int diagonal_grid_ = 0;
   double gravity_factor_ = 9815.0;
 };

@@ -15,6 +15,7 @@
 #include "app/dialogs/cdlg_ibc2000.h"
 #include "app/dialogs/dlg_atc.h"
 #include "app/dialogs/dlg_kds2019.h"
+#include "app/dialogs/dlg_newmark.h"
 #include "app/dialogs/dlg_ubc.h"
 #include "app/dialogs/dlg_ubc97.h"
 #include "app/dialogs/earth_dlg.h"
@@ -59,6 +60,7 @@ void RegisterCommands(CommandRegistry& registry) {
   registry.Register(ID_DESIGN_CH_GBJ111_87,
                     RunGenerateDialog<CDLG_CH_GBJ111_87>);
   registry.Register(ID_DESIGN_KDS2019, RunGenerateDialog<DLG_KDS2019>);
+  registry.Register(ID_DESIGN_NEWMARK, RunGenerateDialog<DLG_NEWMARK>);
 }
 
 }  // namespace zel::app

@@ -28,6 +28,7 @@ const std::vector<CodeEntry>& DesignCodes() {
   static const std::vector<CodeEntry> codes = {
       Atc306Entry(),  Ubc88Entry(),  Ubc97Entry(),  Ibc2000Entry(),
       Gb50011Entry(), Jtj004Entry(), Gbj111Entry(), Kds2019Entry(),
+      NewmarkHallEntry(),
   };
   return codes;
 }

@@ -124,6 +124,7 @@ CodeEntry Gb50011Entry();
 CodeEntry Jtj004Entry();
 CodeEntry Gbj111Entry();
 CodeEntry Kds2019Entry();
+CodeEntry NewmarkHallEntry();
 
 }  // namespace zel
 
