@@ -1,10 +1,12 @@
 // zel: the desktop program; `zel --export` draws a saved chart headless.
 #include <QApplication>
 
+#include "app/shell/command_line_help.h"
 #include "app/shell/headless_export.h"
 #include "app/shell/zelw_app.h"
 
 int main(int argc, char* argv[]) {
+  if (zel::app::AnswerInformationRequest(argc, argv)) return 0;
   if (zel::app::WantsExport(argc, argv)) {
     // No window and no display: draw on the offscreen platform.
     qputenv("QT_QPA_PLATFORM", "offscreen");
