@@ -210,23 +210,7 @@ TEST_F(DesignDialogs, SiteClassENoteComesBeforeAnyDocument) {
   EXPECT_EQ(frame().ActiveDocument()->title, "IBC2000(ASCE7-98)");
 }
 
-TEST_F(DesignDialogs, CoefficientsShowBySiteAndTheReliefIsReadFromItsBox) {
-  Open(ID_DESIGN_KSCE2019, [this](DesignCodeDialog& d) {
-    auto* fa = d.findChild<QLineEdit*>("fa");
-    EXPECT_FALSE(fa->isVisibleTo(&d));  // S1
-    Choose(d, "site", 2);
-    EXPECT_TRUE(fa->isVisibleTo(&d));
-    EXPECT_FALSE(Enabled(d, "fa"));
-    Choose(d, "site", 5);
-    Type(d, "fa", "0");
-    PressOk(d);  // refused before any document is made
-    EXPECT_EQ(messages(),
-              std::vector<std::string>{"Error! Fa must be positive value."});
-    EXPECT_EQ(WindowCount(), 0);
-    Type(d, "fa", "1.2");
-    PressOk(d);
-  });
-  EXPECT_EQ(WindowCount(), 1);
+TEST_F(DesignDialogs, TheReliefIsReadFromItsBoxNotFromTheSite) {
   // Checked under Sd, the box stays checked, though disabled, on Sa.
   Open(ID_DESIGN_KBC2005, [](DesignCodeDialog& d) {
     d.findChild<QCheckBox*>("relieve")->click();

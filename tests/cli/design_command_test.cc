@@ -13,7 +13,6 @@
 #include "core/codes/kds2019.h"
 #include "core/codes/newmark_hall.h"
 #include "core/codes/ntc2018.h"
-#include "core/codes/shanghai2003.h"
 #include "core/codes/us_codes.h"
 #include "core/document/data_file.h"
 #include "core/document/test_files.h"
@@ -87,7 +86,7 @@ TEST(DesignCommandTest, SameBytesAsTheCoreGenerators) {
                   {.scale = 0.5, .type = 0, .damping = {0.02, 0.05}}, dir));
 
   // A typed field selects what opens it: S6, User Defined, user-defined
-  // topography (the refreshed values stay); the effect suggests Tg.
+  // topography (the refreshed values stay).
   EXPECT_EQ(RunDesign("kds2018 --fa 1.5 --fv 2", dir),
             Saved(GenerateKds2018,
                   {.site = 5, .fa = 1.5, .fv = 2.0, .grid = {}}, dir));
@@ -98,9 +97,6 @@ TEST(DesignCommandTest, SameBytesAsTheCoreGenerators) {
       Saved(GenerateNtc2018,
             {.topography = 4, .tb = 0.2, .tc = 0.6, .td = 1.92, .grid = {}},
             dir));
-  EXPECT_EQ(RunDesign("shanghai2003 --intensity 8 --effect scarce", dir),
-            Saved(GenerateShanghai2003,
-                  {.intensity = 2, .effect = 1, .tg = 1.1}, dir));
 }
 
 TEST(DesignCommandTest, ListsCodesAndWritesCsv) {
