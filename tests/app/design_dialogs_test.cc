@@ -2,6 +2,7 @@
 // the documents they make.
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFocusEvent>
@@ -207,6 +208,18 @@ TEST_F(DesignDialogs, SiteClassENoteComesBeforeAnyDocument) {
   });
   EXPECT_EQ(WindowCount(), 1);
   EXPECT_EQ(frame().ActiveDocument()->title, "IBC2000(ASCE7-98)");
+}
+
+TEST_F(DesignDialogs, TheReliefIsReadFromItsBoxNotFromTheSite) {
+  // Checked under Sd, the box stays checked, though disabled, on Sa.
+  Open(ID_DESIGN_KBC2005, [](DesignCodeDialog& d) {
+    d.findChild<QCheckBox*>("relieve")->click();
+    Choose(d, "site", 0);
+    EXPECT_FALSE(Enabled(d, "relieve"));
+    PressOk(d);
+  });
+  const std::string& label = frame().ActiveDocument()->subtitle;
+  EXPECT_EQ(label.substr(label.size() - 12), " Relieve=Yes");
 }
 
 TEST_F(DesignDialogs, FailedCheckLeavesTheDialogAndAnyEmptyDocumentOpen) {

@@ -8,8 +8,11 @@
 #include "cli/cli_runner.h"
 #include "core/codes/code_registry.h"
 #include "core/codes/ibc2000.h"
+#include "core/codes/kbc2005.h"
+#include "core/codes/kds2018.h"
 #include "core/codes/kds2019.h"
 #include "core/codes/newmark_hall.h"
+#include "core/codes/ntc2018.h"
 #include "core/codes/us_codes.h"
 #include "core/document/data_file.h"
 #include "core/document/test_files.h"
@@ -81,6 +84,19 @@ TEST(DesignCommandTest, SameBytesAsTheCoreGenerators) {
                       dir),
             Saved(GenerateNewmarkHall,
                   {.scale = 0.5, .type = 0, .damping = {0.02, 0.05}}, dir));
+
+  // A typed field selects what opens it: S6, User Defined, user-defined
+  // topography (the refreshed values stay).
+  EXPECT_EQ(RunDesign("kds2018 --fa 1.5 --fv 2", dir),
+            Saved(GenerateKds2018,
+                  {.site = 5, .fa = 1.5, .fv = 2.0, .grid = {}}, dir));
+  EXPECT_EQ(RunDesign("kbc2005 --sds 0.6", dir),
+            Saved(GenerateKbc2005, {.mode = 1, .sds = 0.6, .grid = {}}, dir));
+  EXPECT_EQ(
+      RunDesign("ntc2018 --tb 0.2 --tc 0.6", dir),
+      Saved(GenerateNtc2018,
+            {.topography = 4, .tb = 0.2, .tc = 0.6, .td = 1.92, .grid = {}},
+            dir));
 }
 
 TEST(DesignCommandTest, ListsCodesAndWritesCsv) {
@@ -128,6 +144,8 @@ TEST(DesignCommandTest, BadInputGivesItsMessageAndNoFile) {
   fails("kds2019 --site S7", "'S7' is not one of S1, S2, S3, S4, S5, S6");
   fails("newmark-hall --damping 0.05,0.25", "The damping ratio 0.25 must be");
   fails("newmark-hall --damping 0,0,0,0,0,0,0", "at most 6 values");
+  fails("kds2018 --site s6 --risk 0", "Error! I  must be positive value.");
+  fails("ntc2018 --tcstar 0", "Tc* > 0");
   fails("eurocode", "");
   const auto r = RunCli("design");
   EXPECT_NE(r.status, 0);

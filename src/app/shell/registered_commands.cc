@@ -12,9 +12,13 @@
 #include "app/dialogs/cdlg_ch2002.h"
 #include "app/dialogs/cdlg_ch_brg89.h"
 #include "app/dialogs/cdlg_ch_gbj111_87.h"
+#include "app/dialogs/cdlg_chsh2003.h"
 #include "app/dialogs/cdlg_ibc2000.h"
+#include "app/dialogs/cdlg_ntc2018.h"
 #include "app/dialogs/dlg_atc.h"
+#include "app/dialogs/dlg_kbc2005.h"
 #include "app/dialogs/dlg_kds2019.h"
+#include "app/dialogs/dlg_ksce2019.h"
 #include "app/dialogs/dlg_newmark.h"
 #include "app/dialogs/dlg_ubc.h"
 #include "app/dialogs/dlg_ubc97.h"
@@ -61,6 +65,10 @@ void RegisterCommands(CommandRegistry& registry) {
                     RunGenerateDialog<CDLG_CH_GBJ111_87>);
   registry.Register(ID_DESIGN_KDS2019, RunGenerateDialog<DLG_KDS2019>);
   registry.Register(ID_DESIGN_NEWMARK, RunGenerateDialog<DLG_NEWMARK>);
+  registry.Register(ID_DESIGN_KSCE2019, RunGenerateDialog<DLG_KSCE2019>);
+  registry.Register(ID_DESIGN_KBC2005, RunGenerateDialog<DLG_KBC2005>);
+  registry.Register(ID_DESIGN_NTC2018, RunGenerateDialog<CDLG_NTC2018>);
+  registry.Register(ID_DESIGN_CHSH2003, RunGenerateDialog<CDLG_CHSH2003>);
 }
 
 }  // namespace zel::app

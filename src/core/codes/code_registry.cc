@@ -26,8 +26,9 @@ bool SameIgnoringCase(std::string_view a, std::string_view b) {
 const std::vector<CodeEntry>& DesignCodes() {
   // A new code adds its entry function here.
   static const std::vector<CodeEntry> codes = {
-      Atc306Entry(),  Ubc88Entry(),  Ubc97Entry(),  Ibc2000Entry(),
-      Gb50011Entry(), Jtj004Entry(), Gbj111Entry(), Kds2019Entry(),
+      Atc306Entry(),      Ubc88Entry(),   Ubc97Entry(),   Ibc2000Entry(),
+      Gb50011Entry(),     Jtj004Entry(),  Gbj111Entry(),  Kds2019Entry(),
+      Kds2018Entry(),     Kbc2005Entry(), Ntc2018Entry(), Shanghai2003Entry(),
       NewmarkHallEntry(),
   };
   return codes;

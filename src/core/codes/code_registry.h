@@ -125,6 +125,10 @@ CodeEntry Jtj004Entry();
 CodeEntry Gbj111Entry();
 CodeEntry Kds2019Entry();
 CodeEntry NewmarkHallEntry();
+CodeEntry Kds2018Entry();
+CodeEntry Kbc2005Entry();
+CodeEntry Ntc2018Entry();
+CodeEntry Shanghai2003Entry();
 
 }  // namespace zel
 

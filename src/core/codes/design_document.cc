@@ -80,4 +80,36 @@ bool CheckFiniteParameters(std::initializer_list<NamedValue> values,
   return true;
 }
 
+bool CheckPrintableParameters(std::initializer_list<NamedValue> values,
+                              MessageSink& messages) {
+  if (!CheckFiniteParameters(values, messages)) return false;
+  for (const NamedValue& named : values) {
+    if (std::fabs(named.value) > kMaxPrintableParameter) {
+      messages.Show("The value " + std::string(named.name) + " is too large");
+      return false;
+    }
+  }
+  return true;
+}
+
+bool CheckDefinedSpectrum(std::span<const SpectrumPoint> points,
+                          MessageSink& messages) {
+  for (const SpectrumPoint& point : points) {
+    if (std::isnan(point.period) || std::isnan(point.sa)) {
+      messages.Show(kUndefinedSpectrumMessage);
+      return false;
+    }
+  }
+  return true;
+}
+
+bool HandOverDefinedSpectrum(CZELwDoc& doc,
+                             std::span<const SpectrumPoint> points,
+                             const std::string& title, const std::string& label,
+                             MessageSink& messages) {
+  if (!CheckDefinedSpectrum(points, messages)) return false;
+  HandOverSpectrum(doc, points, title, label);
+  return true;
+}
+
 }  // namespace zel

@@ -48,6 +48,27 @@ struct NamedValue {
 bool CheckFiniteParameters(std::initializer_list<NamedValue> values,
                            MessageSink& messages);
 
+// CheckFiniteParameters, and then a magnitude above this is refused with
+// "The value %s is too large". A parameter printed with "%f" in a chart
+// title must stay short enough for the data file's reader, which takes at
+// most 120 characters between commas; no code parameter comes near it.
+inline constexpr double kMaxPrintableParameter = 1e15;
+bool CheckPrintableParameters(std::initializer_list<NamedValue> values,
+                              MessageSink& messages);
+
+inline constexpr char kUndefinedSpectrumMessage[] =
+    "The spectrum is not defined for these values";
+// Refuses a sampled curve that holds a value that is not a number, which only
+// extreme finite parameters give (an overflowing term times zero). An
+// infinite value is kept: it saves and reads back as it is.
+bool CheckDefinedSpectrum(std::span<const SpectrumPoint> points,
+                          MessageSink& messages);
+// CheckDefinedSpectrum, then the array hand-off; false after the message.
+bool HandOverDefinedSpectrum(CZELwDoc& doc,
+                             std::span<const SpectrumPoint> points,
+                             const std::string& title, const std::string& label,
+                             MessageSink& messages);
+
 }  // namespace zel
 
 #endif  // ZEL_CORE_CODES_DESIGN_DOCUMENT_H_

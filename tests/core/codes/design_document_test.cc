@@ -49,6 +49,14 @@ TEST(DesignDocumentTest, NonFiniteParametersAreNamed) {
       {{"Ca", 0.4}, {"R", INFINITY}, {"I", std::nan("")}}, log));
   EXPECT_EQ(log.texts(),
             std::vector<std::string>{"The value R must be a finite number"});
+  // Printed in a title with "%f", 1e16 would outgrow the reader's tokens.
+  EXPECT_TRUE(CheckPrintableParameters({{"Tg", -1e15}}, log));
+  EXPECT_FALSE(CheckPrintableParameters({{"Ie", 1.2}, {"Tg", 1e16}}, log));
+  const SpectrumPoint points[] = {{0.0, INFINITY}, {0.1, std::nan("")}};
+  EXPECT_TRUE(CheckDefinedSpectrum(std::span(points, 1), log));
+  EXPECT_FALSE(CheckDefinedSpectrum(points, log));
+  EXPECT_EQ(log.texts().back(), kUndefinedSpectrumMessage);
+  EXPECT_EQ(log.texts()[1], "The value Tg is too large");
 }
 
 }  // namespace
