@@ -8,6 +8,7 @@
 int main(int argc, char** argv) {
   CLI::App app{"ZEL command line: seismic input data without the GUI",
                "zel-cli"};
+  app.set_version_flag("--version", "zel-cli " ZEL_VERSION);
   app.require_subcommand(1);
   zel::cli::AddFileCommands(app);
   zel::cli::AddDesignCommand(app);

@@ -19,6 +19,7 @@
 #include "core/records/frequency_switch.h"
 #include "core/records/record_catalog.h"
 #include "core/records/record_curve.h"
+#include "core/records/record_folder.h"
 #include "core/records/response_spectrum.h"
 
 namespace zel::cli {
@@ -34,7 +35,7 @@ struct RecordSource {
 // The options shared by the record commands.
 struct RecordOptions {
   std::string record;
-  std::string base;  // folder holding dbase/; the program's folder if empty
+  std::string base;  // folder holding dbase/; RecordBaseFolder() if empty
   std::string amplitude_scale = "1.0";
   std::string time_scale = "1.0";
   std::string output;
@@ -67,7 +68,7 @@ RecordSource FindRecord(const RecordOptions& options,
                         StderrMessages& messages) {
   const auto catalog = RecordCatalog();
   const std::string folder =
-      options.base.empty() ? ProgramFolder() : options.base;
+      options.base.empty() ? RecordBaseFolder() : options.base;
   int number = 0;
   const std::string& id = options.record;
   const auto [stop, error] =
@@ -128,7 +129,8 @@ void AddRecordOptions(CLI::App* command, RecordOptions& options) {
   command->add_option("--time-scale", options.time_scale,
                       "Time scale (default 1.0)");
   command->add_option("--base", options.base,
-                      "Folder holding dbase/ (default: the program's folder)");
+                      "Folder holding dbase/ (default: the program's folder, "
+                      "else the installed data folder)");
   command
       ->add_option("-o,--output", options.output,
                    "Output file: .csv for columns, else a .zel data file")

@@ -8,7 +8,7 @@
 #include "app/shell/command_table.h"
 #include "app/shell/main_frame.h"
 #include "core/document/data_file.h"
-#include "core/records/record_catalog.h"
+#include "core/records/record_folder.h"
 
 namespace zel::app {
 namespace {
@@ -46,7 +46,7 @@ CZELwDoc* CZELwApp::NewDocument(int mode) {
 }
 
 std::string CZELwApp::ProgramFolder() const {
-  return program_folder_.empty() ? zel::ProgramFolder() : program_folder_;
+  return program_folder_.empty() ? RecordBaseFolder() : program_folder_;
 }
 
 void CZELwApp::OnFileOpen() {
