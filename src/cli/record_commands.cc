@@ -4,8 +4,10 @@
 #include <charconv>
 #include <cmath>
 #include <filesystem>
+#include <iomanip>
 #include <iostream>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -257,18 +259,11 @@ SpectrumSettings SettingsOf(const SpectrumOptions& options) {
   return s;
 }
 
-std::string Quoted(const std::string& text) {
-  std::string out = "\"";
-  for (char c : text) {
-    if (c == '"') out += '"';
-    out += c;
-  }
-  return out + '"';
-}
-
-void AppendNumber(std::string& out, double value) {
-  char buffer[32];
-  out.append(buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr);
+// A CSV field: quoted, with its quotes doubled.
+std::string Field(const std::string& text) {
+  std::ostringstream out;
+  out << std::quoted(text, '"', '"');
+  return out.str();
 }
 
 // The summary's header: the record, its peak ground acceleration and the
@@ -277,9 +272,9 @@ std::string SummaryHeader(const CZELwDoc& doc) {
   std::string row = "\"Record\",\"PGA (g)\"";
   for (int k = 0; k < doc.curve_count; ++k) {
     for (std::size_t j = 0; j < doc.StoredPoints(k); ++j) {
-      row += ',' + Quoted(CFormat("%s at T=%g s, damping %g",
-                                  doc.AxisTitle(1).c_str(),
-                                  doc.store().Value(j, 2 * k), doc.damping[k]));
+      row += ',' +
+             Field(CFormat("%s at T=%g s, damping %g", doc.AxisTitle(1).c_str(),
+                           doc.store().Value(j, 2 * k), doc.damping[k]));
     }
   }
   return row + '\n';
@@ -291,11 +286,15 @@ std::string SummaryRow(const CZELwDoc& doc) {
     peak = std::max(peak, std::fabs(s.value));
   }
   const double g = doc.results_in_g == 1 ? 1.0 : doc.gravity;
-  std::string row = Quoted(doc.record_name) + ',' + CFormat("%.10g", peak / g);
+  std::string row = Field(doc.record_name) + ',' + CFormat("%.10g", peak / g);
+  char number[32];
   for (int k = 0; k < doc.curve_count; ++k) {
     for (std::size_t j = 0; j < doc.StoredPoints(k); ++j) {
+      // The shortest text that reads back as the same ordinate.
+      const double value = doc.store().Value(j, 2 * k + 1);
       row += ',';
-      AppendNumber(row, doc.store().Value(j, 2 * k + 1));
+      row.append(number,
+                 std::to_chars(number, number + sizeof number, value).ptr);
     }
   }
   return row + '\n';

@@ -1,6 +1,7 @@
 #include "core/records/spectrum_kernel.h"
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <cmath>
@@ -54,23 +55,50 @@ ZEL_ALWAYS_INLINE void KeepPeak(typename Vector<kLanes>::Type& peak,
   peak = magnitude > peak ? magnitude : peak;
 }
 
-// Gathers `kCount` per-oscillator values into lanes; a short last block
-// repeats its last oscillator in the spare lanes.
-template <int kLanes, int kVectors, int kCount, typename Values>
+// Gathers the values `values` gives for each oscillator into lanes; a short
+// last block repeats its last oscillator in the spare lanes.
+template <int kLanes, int kVectors, std::size_t kCount>
 ZEL_ALWAYS_INLINE void GatherLanes(
-    std::size_t count, Values values,
+    const OscillatorCoefficients* osc, std::size_t count,
+    std::array<double, kCount> (*values)(const OscillatorCoefficients&),
     typename Vector<kLanes>::Type (*out)[kVectors]) {
   double lanes[kCount][kVectors][kLanes];
   for (int b = 0; b < kVectors; ++b) {
     for (int l = 0; l < kLanes; ++l) {
       const std::size_t o = std::min<std::size_t>(b * kLanes + l, count - 1);
-      double v[kCount];
-      values(o, v);
-      for (int c = 0; c < kCount; ++c) lanes[c][b][l] = v[c];
+      const std::array<double, kCount> v = values(osc[o]);
+      for (std::size_t c = 0; c < kCount; ++c) lanes[c][b][l] = v[c];
     }
   }
-  for (int c = 0; c < kCount; ++c)
+  for (std::size_t c = 0; c < kCount; ++c) {
     std::memcpy(out[c], lanes[c], sizeof lanes[c]);
+  }
+}
+
+// The state step's coefficients, in the order the step takes them.
+std::array<double, 12> StateValues(const OscillatorCoefficients& c) {
+  return {c.d_from_d, c.d_from_v, c.d_from_start, c.d_from_end,
+          c.v_from_d, c.v_from_v, c.v_from_start, c.v_from_end,
+          c.a_from_d, c.a_from_v, c.a_from_start, c.a_from_end};
+}
+
+// The displacement recurrence of one oscillator. With the state step
+// x(i+1) = A x(i) + b p(i) + e p(i+1), x = (d, v), the Cayley-Hamilton
+// theorem A^2 = tr(A) A - det(A) I gives
+//   d(i+2) = tr d(i+1) - det d(i) + c0 p(i) + c1 p(i+1) + c2 p(i+2)
+// with c0 = a12 b2 - a22 b1, c1 = b1 + a12 e2 - a22 e1, c2 = e1. The values:
+// tr, -det, c0, c1, c2, then the first step's a11, a12, b1, e1.
+std::array<double, 9> RecurrenceValues(const OscillatorCoefficients& k) {
+  return {
+      k.d_from_d + k.v_from_v,
+      k.d_from_v * k.v_from_d - k.d_from_d * k.v_from_v,
+      k.d_from_v * k.v_from_start - k.v_from_v * k.d_from_start,
+      k.d_from_start + k.d_from_v * k.v_from_end - k.v_from_v * k.d_from_end,
+      k.d_from_end,
+      k.d_from_d,
+      k.d_from_v,
+      k.d_from_start,
+      k.d_from_end};
 }
 
 template <int kLanes, int kVectors>
@@ -93,17 +121,7 @@ ZEL_ALWAYS_INLINE void StateStepBlock(const double* forcing, std::size_t n,
                                       std::size_t count, double* peaks) {
   using V = typename Vector<kLanes>::Type;
   V k[12][kVectors];
-  GatherLanes<kLanes, kVectors, 12>(
-      count,
-      [&](std::size_t o, double* v) {
-        const OscillatorCoefficients& c = osc[o];
-        const double all[12] = {c.d_from_d,     c.d_from_v,     c.d_from_start,
-                                c.d_from_end,   c.v_from_d,     c.v_from_v,
-                                c.v_from_start, c.v_from_end,   c.a_from_d,
-                                c.a_from_v,     c.a_from_start, c.a_from_end};
-        std::memcpy(v, all, sizeof all);
-      },
-      k);
+  GatherLanes<kLanes, kVectors>(osc, count, StateValues, k);
   V d[kVectors]{}, v[kVectors]{}, peak[kVectors]{};
   for (std::size_t i = 0; i < n; ++i) {
     const double p0 = forcing[i];
@@ -133,25 +151,6 @@ ZEL_ALWAYS_INLINE void StateStepBlock(const double* forcing, std::size_t n,
   ScatterPeaks<kLanes, kVectors>(peak, count, peaks);
 }
 
-// The displacement recurrence of one oscillator. With the state step
-// x(i+1) = A x(i) + b p(i) + e p(i+1), x = (d, v), the Cayley-Hamilton
-// theorem A^2 = tr(A) A - det(A) I gives
-//   d(i+2) = tr d(i+1) - det d(i) + c0 p(i) + c1 p(i+1) + c2 p(i+2)
-// with c0 = a12 b2 - a22 b1, c1 = b1 + a12 e2 - a22 e1, c2 = e1.
-struct Recurrence {
-  double trace, minus_det, c0, c1, c2;
-};
-
-Recurrence RecurrenceOf(const OscillatorCoefficients& k) {
-  Recurrence r;
-  r.trace = k.d_from_d + k.v_from_v;
-  r.minus_det = k.d_from_v * k.v_from_d - k.d_from_d * k.v_from_v;
-  r.c0 = k.d_from_v * k.v_from_start - k.v_from_v * k.d_from_start;
-  r.c1 = k.d_from_start + k.d_from_v * k.v_from_end - k.v_from_v * k.d_from_end;
-  r.c2 = k.d_from_end;
-  return r;
-}
-
 // Peak displacement by the recurrence. The first step, from rest, is the
 // state step's; every later one takes five products and four sums.
 template <int kLanes, int kVectors>
@@ -160,22 +159,7 @@ ZEL_ALWAYS_INLINE void RecurrenceBlock(const double* forcing, std::size_t n,
                                        std::size_t count, double* peaks) {
   using V = typename Vector<kLanes>::Type;
   V k[9][kVectors];
-  GatherLanes<kLanes, kVectors, 9>(
-      count,
-      [&](std::size_t o, double* v) {
-        const Recurrence r = RecurrenceOf(osc[o]);
-        const double all[9] = {r.trace,
-                               r.minus_det,
-                               r.c0,
-                               r.c1,
-                               r.c2,
-                               osc[o].d_from_d,
-                               osc[o].d_from_v,
-                               osc[o].d_from_start,
-                               osc[o].d_from_end};
-        std::memcpy(v, all, sizeof all);
-      },
-      k);
+  GatherLanes<kLanes, kVectors>(osc, count, RecurrenceValues, k);
   V before[kVectors]{}, d[kVectors]{}, peak[kVectors]{};
   if (n == 0) {
     ScatterPeaks<kLanes, kVectors>(peak, count, peaks);
@@ -212,9 +196,8 @@ ZEL_ALWAYS_INLINE void RecurrenceBlock(const double* forcing, std::size_t n,
 // n eps / |root1 - root2|, against n eps for the state step. The recurrence
 // is kept for separations of at least n / 1e7, for errors below 2e-9.
 bool SuitsRecurrence(const OscillatorCoefficients& k, std::size_t n) {
-  const double trace = k.d_from_d + k.v_from_v;
-  const double det = k.d_from_d * k.v_from_v - k.d_from_v * k.v_from_d;
-  const double separation = std::sqrt(std::fabs(trace * trace - 4.0 * det));
+  const std::array<double, 9> r = RecurrenceValues(k);
+  const double separation = std::sqrt(std::fabs(r[0] * r[0] + 4.0 * r[1]));
   return separation >= static_cast<double>(n) * 1e-7;
 }
 
