@@ -21,8 +21,8 @@ record() {  # SAMPLES SEED
   awk -v n="$1" -v seed="$2" 'BEGIN {
     for (i = 0; i < n; i++) {
       t = i * 0.01
-      printf "%.2f, %.8f\n", t, 0.3 * sin((7.1 + 0.01 * seed) * t) *
-        exp(-0.05 * t) + 0.09 * cos(23 * t + 0.4)
+      a = 0.3 * sin((7.1 + 0.01 * seed) * t) * exp(-0.05 * t)
+      printf "%.2f, %.8f\n", t, a + 0.09 * cos(23 * t + 0.4)
     }
   }'
 }
