@@ -38,7 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
   settings.period_to = 2.0;
   settings.period_count = 4;
   zel::PrepareSpectrumDocument(spectrum, settings);
-  if (zel::ReadRecordFile(spectrum, OpenBytes(bytes), log) == 1) {
+  if (zel::ReadRecordFile(spectrum, OpenBytes(bytes), log,
+                          zel::TimeStepUse::kNeeded) == 1) {
     zel::ComputeResponseSpectrum(spectrum, settings, spectrum.record_samples,
                                  spectrum.record_time_step, log);
   }

@@ -218,17 +218,18 @@ TEST_F(RecordDialogsTest, MissingOrBadRecordFiles) {
   EXPECT_EQ(app_->follow_up().record_path, folder_ + "dbase/Elcent_v.dbs");
   EXPECT_TRUE(app_->follow_up().spectrum_follows);
   EXPECT_FALSE(app_->follow_up().tripartite_follows);
-  EXPECT_EQ(WindowCount(), 0);
 
-  // A file that is no record leaves the new document empty and open.
-  zel::testing::WriteAll(record_path_, "garbage\n");
-  AnswerWith<EarthDlg>({});
+  // A record that would give wrong answers (here through a time scale of 0)
+  // is refused the same way, the reader's message first.
+  spectra.chooser().record_list()->setCurrentIndex(0);
+  spectra.chooser().time_scale()->setText("0");
   messages_->Clear();
-  frame().OnCommand(ID_GENERATE_RESPONSE_SPECTRA);
-  EXPECT_THAT(messages(), ElementsAre("Error : Wrong Format!",
-                                      "an Error occurred while reading data!"));
-  ASSERT_EQ(WindowCount(), 1);
-  EXPECT_EQ(child()->GetDocument().StoredPoints(0), 0u);
+  spectra.accept();
+  EXPECT_THAT(messages(),
+              ElementsAre(::testing::StartsWith("Error : Times must increase!"),
+                          "an Error occurred while reading data!"));
+  EXPECT_EQ(spectra.result(), QDialog::Rejected);
+  EXPECT_EQ(WindowCount(), 0);
 }
 
 TEST_F(RecordDialogsTest, ImportTakesTheChosenFile) {

@@ -115,7 +115,9 @@ TEST(RecordCommandsTest, RecordAndFftWriteWhatTheDialogWould) {
     std::string arguments;
     ::testing::Matcher<std::string> out;
   } failures[] = {
-      {"record 5" + base, Eq("ERROR! File Not Found!\n")},
+      {"record 5" + base,
+       Eq("ERROR! File Not Found!\n" + (dir / "dbase/Taft_t.dbs").string() +
+          ": No such file or directory\n")},
       {"record 54", Eq("No catalog entry 54 (1 to 53)\n")},
       {"record " + Quoted(dir / "empty.dbs"),
        Eq("Error : No Data Found!\nan Error occurred while reading data!\n")},
@@ -168,6 +170,10 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
     EXPECT_FALSE(r.out.empty()) << bad;
   }
   EXPECT_FALSE(std::filesystem::exists(dir / "bad.zel"));
+  // A time scale of 0 leaves no time step: the reader refuses the record.
+  r = RunTo(dir, spectrum + " --time-scale 0", "zero.zel");
+  EXPECT_EQ(r.status, 1);
+  EXPECT_THAT(r.out, HasSubstr("Times must increase!"));
 }
 
 TEST(RecordCommandsTest, BatchesSkipABadRecordAndFinishTheOthers) {

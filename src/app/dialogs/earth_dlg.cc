@@ -172,8 +172,8 @@ void EarthDlg::accept() {
     return;
   }
   PrepareSpectrumDocument(*doc, settings);
-  if (ReadRecordFile(*doc, std::move(file), messages,
-                     TimeStepUse::kNeeded) == 1) {
+  if (ReadRecordFile(*doc, std::move(file), messages, TimeStepUse::kNeeded) ==
+      1) {
     Compute(*doc, settings);
   } else {
     messages.Show(kRecordReadFailedMessage);

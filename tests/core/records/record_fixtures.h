@@ -87,11 +87,11 @@ inline CZELwDoc SpectrumOf(const std::string& bytes,
   CZELwDoc doc;
   PrepareSpectrumDocument(doc, settings);
   MessageLog log;
-  if (ReadRecordFile(doc, OpenBytes(bytes), log) == 1) {
+  if (ReadRecordFile(doc, OpenBytes(bytes), log, TimeStepUse::kNeeded) == 1) {
     ComputeResponseSpectrum(doc, settings, doc.record_samples,
                             doc.record_time_step, log, run);
   } else {
-    log.Show("an Error occurred while reading data!");
+    log.Show(kRecordReadFailedMessage);
   }
   if (messages != nullptr) *messages = log.texts();
   return doc;
