@@ -132,7 +132,9 @@ TEST_F(RecordDialogsTest, DefaultsTypeListLogBoxAndAdd) {
     QTest::mouseClick(spectra.add_button(), Qt::LeftButton);
     EXPECT_EQ(spectra.damping_count(), press + 1);
     EXPECT_TRUE(spectra.damping_edit(press)->isEnabled());
-    if (press < 5) EXPECT_FALSE(spectra.damping_edit(press + 1)->isEnabled());
+    if (press < 5) {
+      EXPECT_FALSE(spectra.damping_edit(press + 1)->isEnabled());
+    }
   }
   EXPECT_TRUE(messages().empty());
   QTest::mouseClick(spectra.add_button(), Qt::LeftButton);
