@@ -7,6 +7,7 @@
 #include "core/document/messages.h"
 #include "core/records/frequency_switch.h"
 #include "core/records/record_curve.h"
+#include "core/records/record_reader.h"
 #include "core/records/response_spectrum.h"
 
 namespace {
@@ -37,6 +38,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,
   settings.period_to = 2.0;
   settings.period_count = 4;
   zel::PrepareSpectrumDocument(spectrum, settings);
-  zel::ComputeResponseSpectrum(spectrum, OpenBytes(bytes), log);
+  if (zel::ReadRecordFile(spectrum, OpenBytes(bytes), log,
+                          zel::TimeStepUse::kNeeded) == 1) {
+    zel::ComputeResponseSpectrum(spectrum, settings, spectrum.record_samples,
+                                 spectrum.record_time_step, log);
+  }
   return 0;
 }

@@ -1,44 +1,45 @@
 #include "cli/record_commands.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <filesystem>
+#include <iomanip>
 #include <iostream>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "cli/number_text.h"
 #include "cli/output_file.h"
-#include "cli/stderr_messages.h"
+#include "cli/record_batch.h"
 #include "core/document/c_format.h"
 #include "core/document/curve_document.h"
 #include "core/document/input_file.h"
+#include "core/document/replacing_file.h"
 #include "core/records/chart_setup.h"
 #include "core/records/frequency_switch.h"
 #include "core/records/record_catalog.h"
+#include "core/records/record_choice.h"
 #include "core/records/record_curve.h"
 #include "core/records/record_folder.h"
+#include "core/records/record_reader.h"
 #include "core/records/response_spectrum.h"
+#include "core/records/spectrum_choices.h"
 
 namespace zel::cli {
 namespace {
 
-// The record a command works on: a catalog entry named by its number or
-// title, or any record file.
-struct RecordSource {
-  std::string path;
-  std::string name;  // the catalog title, or "User EQ : " + the file name
-};
-
 // The options shared by the record commands.
 struct RecordOptions {
-  std::string record;
+  std::vector<std::string> records;
   std::string base;  // folder holding dbase/; RecordBaseFolder() if empty
   std::string amplitude_scale = "1.0";
   std::string time_scale = "1.0";
   std::string output;
+  bool csv = false;  // a folder of outputs holds CSV files
 };
 
 [[noreturn]] void Fail(const std::string& text) {
@@ -55,74 +56,94 @@ double Number(const std::string& text, const char* option) {
   return AtoF(text);
 }
 
-double NumberIn(const std::string& text, const char* option, double low,
-                double high) {
+double NumberIn(const std::string& text, const char* option,
+                const ValueRange& range) {
   const double value = Number(text, option);
-  if (!(value >= low && value <= high)) {
-    Fail(std::string(option) + CFormat(" must be %g to %g", low, high));
+  if (!InRange(value, range)) {
+    Fail(std::string(option) +
+         CFormat(" must be %g to %g", range.min, range.max));
   }
   return value;
 }
 
-RecordSource FindRecord(const RecordOptions& options,
-                        StderrMessages& messages) {
-  const auto catalog = RecordCatalog();
-  const std::string folder =
-      options.base.empty() ? RecordBaseFolder() : options.base;
-  int number = 0;
-  const std::string& id = options.record;
+// Whether `id` is a whole number, which names a catalog entry by position.
+bool IsCatalogNumber(const std::string& id, int& number) {
   const auto [stop, error] =
       std::from_chars(id.data(), id.data() + id.size(), number);
-  if (!id.empty() && error == std::errc() && stop == id.data() + id.size()) {
-    if (number < 1 || number > static_cast<int>(catalog.size())) {
-      Fail(CFormat("No catalog entry %d (1 to %d)", number,
-                   static_cast<int>(catalog.size())));
-    }
-    const char* title = catalog[number - 1].title;
-    return {FindCatalogFile(title, messages, folder), title};
-  }
-  for (const CatalogEntry& entry : catalog) {
-    if (id == entry.title) {
-      return {FindCatalogFile(id, messages, folder), id};
-    }
-  }
-  return {id, "User EQ : " + std::filesystem::path(id).filename().string()};
+  return !id.empty() && error == std::errc() && stop == id.data() + id.size();
 }
 
-InputFile OpenRecord(const RecordSource& source) {
-  InputFile file = InputFile::Open(source.path);
-  if (!file.is_open()) {
-    StderrMessages().ShowFileError(source.path, file.error());
-    throw CLI::RuntimeError(1);
+// The catalog entry a record argument names by its number or title.
+const CatalogEntry* CatalogEntryOf(const std::string& id) {
+  const auto catalog = RecordCatalog();
+  int number = 0;
+  if (IsCatalogNumber(id, number)) {
+    if (number < 1 || number > static_cast<int>(catalog.size())) {
+      return nullptr;
+    }
+    return &catalog[number - 1];
   }
+  for (const CatalogEntry& entry : catalog) {
+    if (id == entry.title) return &entry;
+  }
+  return nullptr;
+}
+
+// The record file of `id` and its record name: the catalog title, or
+// "User EQ : " and the file name. Opens it; a closed file after a message.
+InputFile OpenRecord(const std::string& id, const RecordOptions& options,
+                     MessageSink& messages, std::string& name) {
+  const CatalogEntry* entry = CatalogEntryOf(id);
+  int number = 0;
+  if (entry == nullptr && IsCatalogNumber(id, number)) {
+    messages.Show(CFormat("No catalog entry %d (1 to %d)", number,
+                          static_cast<int>(RecordCatalog().size())));
+    return InputFile();
+  }
+  std::string path = id;
+  name = ImportedRecordName(id);
+  if (entry != nullptr) {
+    const std::string folder =
+        options.base.empty() ? RecordBaseFolder() : options.base;
+    path = FindCatalogFile(entry->title, messages, folder);
+    name = entry->title;
+  }
+  InputFile file = InputFile::Open(path);
+  if (!file.is_open()) messages.ShowFileError(path, file.error());
   return file;
 }
 
-// Reads the record into a new record document, as the record dialog does.
-CZELwDoc RecordDocument(const RecordOptions& options) {
-  const double amplitude =
-      NumberIn(options.amplitude_scale, "--amp-scale", 0.0, 100000.0);
-  const double time = Number(options.time_scale, "--time-scale");
-  StderrMessages messages;
-  const RecordSource source = FindRecord(options, messages);
-  InputFile file = OpenRecord(source);
-  CZELwDoc doc;
-  PrepareRecordDocument(doc, amplitude, time, source.name);
-  if (ShowRecordCurve(doc, std::move(file), messages) != 1) {
-    throw CLI::RuntimeError(1);
-  }
-  return doc;
+std::vector<BatchRecord> Plan(const RecordOptions& options) {
+  return PlanBatch(options.records, options.output,
+                   options.csv ? ".csv" : ".zel", [](const std::string& id) {
+                     const CatalogEntry* entry = CatalogEntryOf(id);
+                     return std::string(entry != nullptr ? entry->file : "");
+                   });
 }
 
-void Save(const CZELwDoc& doc, const std::string& path) {
-  StderrMessages messages;
-  if (!SaveDocument(doc, path, messages)) throw CLI::RuntimeError(1);
+// Ends the command with status 1 when any record failed.
+void Finish(const std::vector<RecordOutcome>& outcomes) {
+  for (const RecordOutcome& outcome : outcomes) {
+    if (!outcome.ok) throw CLI::RuntimeError(1);
+  }
+}
+
+// Reads record `id` into a new record document, as the record dialog does.
+bool ReadRecordDocument(const std::string& id, const RecordOptions& options,
+                        double amplitude, double time, CZELwDoc& doc,
+                        MessageSink& messages) {
+  std::string name;
+  InputFile file = OpenRecord(id, options, messages, name);
+  if (!file.is_open()) return false;
+  PrepareRecordDocument(doc, amplitude, time, name);
+  return ShowRecordCurve(doc, std::move(file), messages) == 1;
 }
 
 void AddRecordOptions(CLI::App* command, RecordOptions& options) {
   command
-      ->add_option("record", options.record,
-                   "Catalog number (1-53) or title, or a record file")
+      ->add_option("records", options.records,
+                   "Catalog numbers (1-53) or titles, record files, or "
+                   "folders of record files")
       ->required();
   command->add_option("--amp-scale", options.amplitude_scale,
                       "Amplitude scale (default 1.0)");
@@ -133,8 +154,11 @@ void AddRecordOptions(CLI::App* command, RecordOptions& options) {
                       "else the installed data folder)");
   command
       ->add_option("-o,--output", options.output,
-                   "Output file: .csv for columns, else a .zel data file")
+                   "Output file: .csv for columns, else a .zel data file; "
+                   "for several records a folder")
       ->required();
+  command->add_flag("--csv", options.csv,
+                    "Write CSV files into a folder of outputs (default .zel)");
 }
 
 void AddCatalog(CLI::App& app) {
@@ -149,102 +173,204 @@ void AddCatalog(CLI::App& app) {
   });
 }
 
-void AddRecord(CLI::App& app) {
+// `record` and `fft`: the time history of each record, or its Fourier
+// amplitude spectrum, with the label the chart shows printed.
+void AddHistoryCommand(CLI::App& app, const char* name, const char* help,
+                       bool fourier) {
   auto options = std::make_shared<RecordOptions>();
-  CLI::App* command = app.add_subcommand(
-      "record", "Write the time history of an earthquake record");
+  CLI::App* command = app.add_subcommand(name, help);
   AddRecordOptions(command, *options);
-  command->callback([options] {
-    const CZELwDoc doc = RecordDocument(*options);
-    std::cout << ContextLabel(doc) << '\n';
-    Save(doc, options->output);
+  command->callback([options, fourier] {
+    const double amplitude = NumberIn(options->amplitude_scale, "--amp-scale",
+                                      kRecordAmplitudeRange);
+    const double time = Number(options->time_scale, "--time-scale");
+    const std::vector<BatchRecord> records = Plan(*options);
+    Finish(RunBatch(records, [&](std::size_t i, RecordOutcome& outcome, int) {
+      MessageSink& messages = outcome.messages;
+      CZELwDoc doc;
+      if (!ReadRecordDocument(records[i].argument, *options, amplitude, time,
+                              doc, messages)) {
+        return;
+      }
+      if (fourier && !SwitchTimeFrequency(doc, messages)) return;
+      outcome.out = ContextLabel(doc) + "\n";
+      outcome.ok = SaveDocument(doc, records[i].output, messages);
+    }));
   });
 }
 
-int KindOfWord(const std::string& word) {
-  const char* const words[] = {"psa", "psv", "sa", "sv", "sd", "dva"};
-  for (int kind = 0; kind < 6; ++kind) {
-    if (word == words[kind]) return kind;
-  }
-  Fail("--kind must be psa, psv, sa, sv, sd or dva");
-}
+// The response-spectrum settings of the options: the dialog's starting
+// values where an option is left out, its ranges for those given.
+struct SpectrumOptions {
+  RecordOptions record;
+  std::string damping;
+  std::string kind;
+  std::string from;
+  std::string to;
+  std::string steps;
+  bool log = false;
+  std::string summary;
+};
 
-void AddSpectrum(CLI::App& app) {
-  struct SpectrumOptions {
-    RecordOptions record;
-    std::string damping = "0";
-    std::string kind = "psa";
-    std::string from = "0.01";
-    std::string to = "10";
-    std::string steps = "200";
-    bool log = false;
-  };
-  auto options = std::make_shared<SpectrumOptions>();
-  CLI::App* command = app.add_subcommand(
-      "spectrum", "Write the response spectra of an earthquake record");
-  AddRecordOptions(command, options->record);
-  command->add_option("--damping", options->damping,
-                      "Damping ratios, 1 to 6, comma-separated (default 0)");
-  command->add_option("--kind", options->kind,
-                      "psa, psv, sa, sv, sd or dva (default psa)");
-  command->add_option("--from", options->from, "First period, s");
-  command->add_option("--to", options->to, "End of the period range, s");
-  command->add_option("--steps", options->steps, "Number of periods");
-  command->add_flag("--log", options->log, "Logarithmic period axis");
-  command->callback([options] {
-    SpectrumSettings settings;
-    settings.kind = KindOfWord(options->kind);
-    settings.amplitude_scale =
-        NumberIn(options->record.amplitude_scale, "--amp-scale", 0.0, 100.0);
-    settings.period_from = NumberIn(options->from, "--from", 0.0, 100.0);
-    const double steps = NumberIn(options->steps, "--steps", 1.0, 5000.0);
+SpectrumSettings SettingsOf(const SpectrumOptions& options) {
+  SpectrumSettings s = DefaultSpectrumChoices();
+  if (!options.kind.empty()) {
+    s.kind = SpectrumKindOfWord(options.kind);
+    if (s.kind < 0) Fail("--kind must be psa, psv, sa, sv, sd or dva");
+  }
+  s.amplitude_scale =
+      NumberIn(options.record.amplitude_scale, "--amp-scale",
+               SpectrumFieldRange(SpectrumField::kAmplitudeScale));
+  if (!options.from.empty()) {
+    s.period_from = NumberIn(options.from, "--from",
+                             SpectrumFieldRange(SpectrumField::kPeriodFrom));
+  }
+  if (!options.steps.empty()) {
+    const double steps =
+        NumberIn(options.steps, "--steps",
+                 SpectrumFieldRange(SpectrumField::kPeriodCount));
     if (steps != std::floor(steps)) Fail("--steps must be a whole number");
-    settings.period_count = static_cast<int>(steps);
-    settings.period_to = NumberIn(options->to, "--to", 0.0, 100.0);
-    std::vector<std::string> ratios;
-    std::string ratio;
-    for (char c : options->damping + ",") {
-      if (c != ',') {
-        ratio.push_back(c);
-        continue;
+    s.period_count = static_cast<int>(steps);
+  }
+  if (!options.to.empty()) {
+    s.period_to = NumberIn(options.to, "--to",
+                           SpectrumFieldRange(SpectrumField::kPeriodTo));
+  }
+  if (!options.damping.empty()) {
+    std::vector<std::string> ratios(1);
+    for (char c : options.damping) {
+      if (c == ',') {
+        ratios.emplace_back();
+      } else {
+        ratios.back().push_back(c);
       }
-      ratios.push_back(ratio);
-      ratio.clear();
     }
     if (ratios.size() > static_cast<std::size_t>(kMaxCurves)) {
       Fail("--damping takes 1 to 6 ratios");
     }
     for (std::size_t k = 0; k < ratios.size(); ++k) {
-      settings.damping[k] = NumberIn(ratios[k], "--damping", 0.0, 1.0);
+      s.damping[k] = NumberIn(ratios[k], "--damping",
+                              SpectrumFieldRange(SpectrumField::kDamping1));
     }
-    settings.damping_count = static_cast<int>(ratios.size());
-    settings.time_scale = Number(options->record.time_scale, "--time-scale");
-    settings.log_axis = options->log;
-
-    StderrMessages messages;
-    const RecordSource source = FindRecord(options->record, messages);
-    settings.record_name = source.name;
-    InputFile file = OpenRecord(source);
-    CZELwDoc doc;
-    PrepareSpectrumDocument(doc, settings);
-    if (ComputeResponseSpectrum(doc, std::move(file), messages) != 1) {
-      throw CLI::RuntimeError(1);
-    }
-    Save(doc, options->record.output);
-  });
+    s.damping_count = static_cast<int>(ratios.size());
+  }
+  s.time_scale = Number(options.record.time_scale, "--time-scale");
+  s.log_axis = options.log;
+  return s;
 }
 
-void AddFft(CLI::App& app) {
-  auto options = std::make_shared<RecordOptions>();
+// A CSV field: quoted, with its quotes doubled.
+std::string Field(const std::string& text) {
+  std::ostringstream out;
+  out << std::quoted(text, '"', '"');
+  return out.str();
+}
+
+// The summary's header: the record, its peak ground acceleration and the
+// ordinate of every damping ratio at every period of the grid.
+std::string SummaryHeader(const CZELwDoc& doc) {
+  std::string row = "\"Record\",\"PGA (g)\"";
+  for (int k = 0; k < doc.curve_count; ++k) {
+    for (std::size_t j = 0; j < doc.StoredPoints(k); ++j) {
+      row += ',' +
+             Field(CFormat("%s at T=%g s, damping %g", doc.AxisTitle(1).c_str(),
+                           doc.store().Value(j, 2 * k), doc.damping[k]));
+    }
+  }
+  return row + '\n';
+}
+
+std::string SummaryRow(const CZELwDoc& doc) {
+  double peak = 0.0;
+  for (const RecordSample& s : doc.record_samples) {
+    peak = std::max(peak, std::fabs(s.value));
+  }
+  const double g = doc.results_in_g == 1 ? 1.0 : doc.gravity;
+  std::string row = Field(doc.record_name) + ',' + CFormat("%.10g", peak / g);
+  char number[32];
+  for (int k = 0; k < doc.curve_count; ++k) {
+    for (std::size_t j = 0; j < doc.StoredPoints(k); ++j) {
+      // The shortest text that reads back as the same ordinate.
+      const double value = doc.store().Value(j, 2 * k + 1);
+      row += ',';
+      row.append(number,
+                 std::to_chars(number, number + sizeof number, value).ptr);
+    }
+  }
+  return row + '\n';
+}
+
+void AddSpectrum(CLI::App& app) {
+  auto options = std::make_shared<SpectrumOptions>();
+  const SpectrumSettings defaults = DefaultSpectrumChoices();
   CLI::App* command = app.add_subcommand(
-      "fft", "Write the normalised Fourier amplitude spectrum of a record");
-  AddRecordOptions(command, *options);
+      "spectrum", "Write the response spectra of earthquake records");
+  AddRecordOptions(command, options->record);
+  command->add_option("--damping", options->damping,
+                      CFormat("Damping ratios, 1 to 6, comma-separated "
+                              "(default %g)",
+                              defaults.damping[0]));
+  command->add_option(
+      "--kind", options->kind,
+      CFormat("psa, psv, sa, sv, sd or dva (default %s)",
+              SpectrumKindWords()[static_cast<std::size_t>(defaults.kind)]));
+  command->add_option(
+      "--from", options->from,
+      CFormat("First period, s (default %g)", defaults.period_from));
+  command->add_option(
+      "--to", options->to,
+      CFormat("End of the period range, s (default %g)", defaults.period_to));
+  command->add_option(
+      "--steps", options->steps,
+      CFormat("Number of periods (default %d)", defaults.period_count));
+  command->add_flag("--log", options->log, "Logarithmic period axis");
+  command->add_option("--summary", options->summary,
+                      "CSV table: a row per record of its name, PGA and "
+                      "ordinates");
   command->callback([options] {
-    CZELwDoc doc = RecordDocument(*options);
-    StderrMessages messages;
-    if (!SwitchTimeFrequency(doc, messages)) throw CLI::RuntimeError(1);
-    std::cout << ContextLabel(doc) << '\n';
-    Save(doc, options->output);
+    const SpectrumSettings settings = SettingsOf(*options);
+    const std::vector<BatchRecord> records = Plan(options->record);
+    std::vector<std::string> headers(records.size());
+    const std::vector<RecordOutcome> outcomes = RunBatch(
+        records, [&](std::size_t i, RecordOutcome& outcome, int threads) {
+          MessageSink& messages = outcome.messages;
+          SpectrumSettings s = settings;
+          InputFile file = OpenRecord(records[i].argument, options->record,
+                                      messages, s.record_name);
+          if (!file.is_open()) return;
+          CZELwDoc doc;
+          PrepareSpectrumDocument(doc, s);
+          if (ReadRecordFile(doc, std::move(file), messages,
+                             TimeStepUse::kNeeded) != 1) {
+            messages.Show(kRecordReadFailedMessage);
+            return;
+          }
+          SpectrumRun run;
+          run.kernel.threads = threads;
+          if (ComputeResponseSpectrum(doc, s, doc.record_samples,
+                                      doc.record_time_step, messages,
+                                      run) != 1 ||
+              !SaveDocument(doc, records[i].output, messages)) {
+            return;
+          }
+          if (!options->summary.empty()) {
+            headers[i] = SummaryHeader(doc);
+            outcome.summary = SummaryRow(doc);
+          }
+          outcome.ok = true;
+        });
+    std::string table;
+    for (std::size_t i = 0; i < outcomes.size(); ++i) {
+      if (table.empty()) table = headers[i];
+      table += outcomes[i].summary;
+    }
+    if (!table.empty()) {
+      ReplacingFile file(options->summary);
+      if (!(file.is_open() && file.Write(table) && file.Commit())) {
+        Fail(std::string(kFileNotFoundMessage) + " " + options->summary);
+      }
+    }
+    Finish(outcomes);
   });
 }
 
@@ -252,9 +378,12 @@ void AddFft(CLI::App& app) {
 
 void AddRecordCommands(CLI::App& app) {
   AddCatalog(app);
-  AddRecord(app);
+  AddHistoryCommand(app, "record",
+                    "Write the time history of earthquake records", false);
   AddSpectrum(app);
-  AddFft(app);
+  AddHistoryCommand(
+      app, "fft", "Write the normalised Fourier amplitude spectrum of records",
+      true);
 }
 
 }  // namespace zel::cli

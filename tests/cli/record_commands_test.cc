@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/cli_runner.h"
+#include "core/document/c_format.h"
 #include "core/document/data_file.h"
 #include "core/records/chart_setup.h"
 #include "core/records/frequency_switch.h"
@@ -64,9 +65,9 @@ TEST(RecordCommandsTest, CatalogListsEveryEntryWithItsCaption) {
   EXPECT_EQ(std::count(r.out.begin(), r.out.end(), '\n'), 106);
 }
 
-TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
+TEST(RecordCommandsTest, RecordAndFftWriteWhatTheDialogWould) {
   TempDir dir;
-  const std::string record = SmallRecord();
+  const std::string record = SmallRecord(1000);
   WriteAll(dir / "quake.dbs", record);
   const std::string quake = Quoted(dir / "quake.dbs");
   auto r = RunTo(dir, "record " + quake + " --amp-scale 0.5 --time-scale 2",
@@ -82,6 +83,15 @@ TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
             "plus.zel");
   ASSERT_EQ(r.status, 0) << r.out;
   EXPECT_EQ(ReadAll(dir / "plus.zel"), ReadAll(dir / "out.zel"));
+
+  r = RunTo(dir, "fft " + quake, "fft.zel");
+  ASSERT_EQ(r.status, 0) << r.out;
+  CZELwDoc fft;
+  ASSERT_EQ(ShowRecord(fft, record, 1.0, 1.0, "User EQ : quake.dbs").result, 1);
+  MessageLog log;
+  ASSERT_TRUE(SwitchTimeFrequency(fft, log));
+  EXPECT_EQ(r.out, "Maximum at 2.93 Hz\n");
+  EXPECT_EQ(ReadAll(dir / "fft.zel"), SavedBytes(fft, dir));
 
   // A catalog entry by number or title, from the dbase/ folder of --base.
   const std::string base = " --base " + Quoted(dir.path());
@@ -100,6 +110,7 @@ TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
 
   // Missing files and bad records end with the system's messages.
   WriteAll(dir / "empty.dbs", "");
+  WriteAll(dir / "one.dbs", "0, 1\n");
   const struct {
     std::string arguments;
     ::testing::Matcher<std::string> out;
@@ -107,11 +118,12 @@ TEST(RecordCommandsTest, RecordWritesWhatTheDialogWouldAndPrintsThePeak) {
       {"record 5" + base,
        Eq("ERROR! File Not Found!\n" + (dir / "dbase/Taft_t.dbs").string() +
           ": No such file or directory\n")},
-      {"record 54", _},
+      {"record 54", Eq("No catalog entry 54 (1 to 53)\n")},
       {"record " + Quoted(dir / "empty.dbs"),
        Eq("Error : No Data Found!\nan Error occurred while reading data!\n")},
       {"record " + quake + " --amp-scale 1,5",
-       HasSubstr("--amp-scale: not a number: 1,5")}};
+       HasSubstr("--amp-scale: not a number: 1,5")},
+      {"fft " + Quoted(dir / "one.dbs"), _}};
   for (const auto& f : failures) {
     r = RunTo(dir, f.arguments, "x.zel");
     EXPECT_EQ(r.status, 1) << f.arguments;
@@ -138,11 +150,14 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
   EXPECT_EQ(ReadAll(dir / "out.zel"), expected);
   EXPECT_THAT(expected, HasSubstr("*FLAGS, 1, 1\n*DATA\n*DAMPING, 0.02\n"
                                   "1.00000E-002\t,"));
-
-  // --log raises "from"; CSV output.
+  // Left out, every setting is the dialog's, to the last bit of "From";
+  // --log raises "from" to the same 0.01.
+  r = RunTo(dir, spectrum, "defaults.csv");
+  ASSERT_EQ(r.status, 0) << r.out;
+  EXPECT_THAT(ReadAll(dir / "defaults.csv"),
+              HasSubstr("\n0.009999999776482582,"));
   r = RunTo(dir, spectrum + " --kind sd --from 0 --to 2 --steps 20 --log",
             "k.csv");
-  EXPECT_EQ(r.status, 0) << r.out;
   EXPECT_THAT(ReadAll(dir / "k.csv"), HasSubstr("\n0.009999999776482582,"));
 
   // Out-of-range settings are refused before anything is written.
@@ -154,47 +169,75 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
     EXPECT_EQ(r.status, 1) << bad;
     EXPECT_FALSE(r.out.empty()) << bad;
   }
-  // A file that is not a record.
-  WriteAll(dir / "text.dbs", "no commas here\nat all\n");
-  r = RunTo(dir, "spectrum " + Quoted(dir / "text.dbs"), "bad.zel");
-  EXPECT_EQ(r.status, 1);
-  EXPECT_EQ(r.out,
-            "Error : Wrong Format!\nan Error occurred while reading data!\n");
   EXPECT_FALSE(std::filesystem::exists(dir / "bad.zel"));
-
-  // From = to is a defined result; a time scale of 0 leaves no time step.
-  r = RunTo(dir, spectrum + " --from 1 --to 1 --steps 3", "same.zel");
-  EXPECT_EQ(r.status, 0) << r.out;
+  // A time scale of 0 leaves no time step: the reader refuses the record.
   r = RunTo(dir, spectrum + " --time-scale 0", "zero.zel");
   EXPECT_EQ(r.status, 1);
   EXPECT_THAT(r.out, HasSubstr("Times must increase!"));
 }
 
-TEST(RecordCommandsTest, FftWritesTheFrequencySpectrum) {
+TEST(RecordCommandsTest, BatchesSkipABadRecordAndFinishTheOthers) {
   TempDir dir;
-  const std::string record = SmallRecord(1000);
-  WriteAll(dir / "quake.dbs", record);
-  const auto r = RunTo(dir, "fft " + Quoted(dir / "quake.dbs"), "out.zel");
-  ASSERT_EQ(r.status, 0) << r.out;
-  CZELwDoc doc;
-  ASSERT_EQ(ShowRecord(doc, record, 1.0, 1.0, "User EQ : quake.dbs").result, 1);
-  MessageLog log;
-  ASSERT_TRUE(SwitchTimeFrequency(doc, log));
-  EXPECT_EQ(r.out, "Maximum at 2.93 Hz\n");
-  EXPECT_EQ(ReadAll(dir / "out.zel"), SavedBytes(doc, dir));
+  std::filesystem::create_directory(dir / "suite");
+  const std::string a = SmallRecord(500), c = SmallRecord(700);
+  WriteAll(dir / "suite" / "a.dbs", a);
+  WriteAll(dir / "suite" / "b.dbs", "no commas here\n");
+  WriteAll(dir / "suite" / "c.dbs", c);
+  WriteAll(dir / "suite" / ".hidden", "skipped\n");
+  const std::string options = " --damping 0.05 --steps 20 --to 2";
 
-  // A silent record has no spectrum to normalise: a message, no output.
-  WriteAll(dir / "silent.dbs", "0, 0\n0.01, 0\n0.02, 0\n0.03, 0\n");
-  const auto silent = RunTo(dir, "fft " + Quoted(dir / "silent.dbs"), "s.csv");
-  EXPECT_EQ(silent.status, 1);
-  EXPECT_THAT(silent.out, HasSubstr("No frequency content!"));
-  EXPECT_FALSE(std::filesystem::exists(dir / "s.csv"));
+  // A folder stands for its files, in name order; one output each, and the
+  // summary's rows hold what each output holds.
+  auto r =
+      RunCli("spectrum " + Quoted(dir / "suite") + options + " -o " +
+             Quoted(dir / "out") + " --summary " + Quoted(dir / "table.csv"));
+  EXPECT_EQ(r.status, 1);
+  const std::string b = (dir / "suite" / "b.dbs").string();
+  EXPECT_EQ(r.out, b + ": Error : Wrong Format!\n" + b +
+                       ": an Error occurred while reading data!\n");
+  EXPECT_FALSE(std::filesystem::exists(dir / "out" / "b.zel"));
+  const std::string table = ReadAll(dir / "table.csv");
+  EXPECT_THAT(table, StartsWith("\"Record\",\"PGA (g)\",\"Pseudo Acceleration "
+                                "(g) at T=0.01 s, damping 0.05\","));
+  EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 3);
+  for (const auto& [name, n] : {std::pair{"a", 500}, std::pair{"c", 700}}) {
+    const std::string id = std::string("User EQ : ") + name + ".dbs";
+    const CZELwDoc doc =
+        SpectrumOf(SmallRecord(n),
+                   Settings(0, {0.05}, static_cast<double>(0.01f), 2, 20, id));
+    EXPECT_EQ(ReadAll(dir / "out" / (std::string(name) + ".zel")),
+              SavedBytes(doc, dir));
+    const std::size_t start = table.find("\n\"" + id + "\",");
+    ASSERT_NE(start, std::string::npos);
+    std::vector<double> row;
+    for (std::size_t at = table.find(',', start);
+         at < table.find('\n', start + 1); at = table.find(',', at + 1)) {
+      row.push_back(AtoF(table.substr(at + 1)));
+    }
+    ASSERT_EQ(row.size(), 21u);
+    double pga = 0;
+    for (double v : zel::testing::Sine(n, 3, 0.01, 0.4, 0.3)) {
+      pga = std::max(pga, std::fabs(v));
+    }
+    EXPECT_NEAR(row[0], pga, 1e-10);  // ten significant digits
+    for (int j = 0; j < 20; ++j) EXPECT_EQ(row[j + 1], doc.store().Value(j, 1));
+  }
 
-  // One sample: no spectrum.
-  WriteAll(dir / "one.dbs", "0, 1\n");
-  const auto one = RunTo(dir, "fft " + Quoted(dir / "one.dbs"), "one.zel");
-  EXPECT_EQ(one.status, 1);
-  EXPECT_FALSE(one.out.empty());
+  // Several arguments, catalog entries among them; the time histories'
+  // labels are printed, each after its record.
+  r = RunCli("record " + Quoted(dir / "suite" / "c.dbs") + " 54 " +
+             Quoted(dir / "suite" / "a.dbs") + " -o " + Quoted(dir / "h/") +
+             " --csv");
+  EXPECT_EQ(r.status, 1);
+  EXPECT_THAT(r.out, HasSubstr("54: No catalog entry 54 (1 to 53)\n"));
+  EXPECT_THAT(r.out, HasSubstr("/c.dbs: Max = "));
+  EXPECT_TRUE(std::filesystem::exists(dir / "h" / "a.csv"));
+  EXPECT_TRUE(std::filesystem::exists(dir / "h" / "c.csv"));
+  // The same name twice: the second would overwrite the first.
+  r = RunCli("record " + Quoted(dir / "suite" / "a.dbs") + " " +
+             Quoted(dir / "suite" / "a.dbs") + " -o " + Quoted(dir / "h2"));
+  EXPECT_EQ(r.status, 1);
+  EXPECT_THAT(r.out, HasSubstr("a.zel is the output of "));
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "app/dialogs/ok_cancel_buttons.h"
 #include "core/document/c_format.h"
 #include "core/records/record_catalog.h"
+#include "core/records/record_reader.h"
 #include "core/records/response_spectrum.h"
 
 namespace zel::app {
@@ -171,25 +172,33 @@ void EarthDlg::accept() {
     return;
   }
   PrepareSpectrumDocument(*doc, settings);
-  Compute(*doc, std::move(file));
+  if (ReadRecordFile(*doc, std::move(file), messages, TimeStepUse::kNeeded) ==
+      1) {
+    Compute(*doc, settings);
+  } else {
+    messages.Show(kRecordReadFailedMessage);
+  }
   follow_up.tripartite_follows = false;
   QDialog::accept();
 }
 
-void EarthDlg::Compute(CZELwDoc& doc, InputFile file) {
+void EarthDlg::Compute(CZELwDoc& doc, const SpectrumSettings& settings) {
   // Shown once the record has been read and the first periods are done;
-  // gone when the spectra are complete.
+  // gone when the spectra are complete. The spectra are integrated on worker
+  // threads while this thread moves the bar.
   std::unique_ptr<DLG_ProgressBar> progress;
-  ComputeResponseSpectrum(
-      doc, std::move(file), host_.messages(), [&](int position, int range) {
-        if (!progress) {
-          progress = std::make_unique<DLG_ProgressBar>(this);
-          progress->SetRange(0, range);
-          progress->show();
-        }
-        progress->SetPos(position);
-        if (progress_observer_) progress_observer_(*progress);
-      });
+  SpectrumRun run;
+  run.progress = [&](int position, int range) {
+    if (!progress) {
+      progress = std::make_unique<DLG_ProgressBar>(this);
+      progress->SetRange(0, range);
+      progress->show();
+    }
+    progress->SetPos(position);
+    if (progress_observer_) progress_observer_(*progress);
+  };
+  ComputeResponseSpectrum(doc, settings, doc.record_samples,
+                          doc.record_time_step, host_.messages(), run);
 }
 
 }  // namespace zel::app

@@ -55,7 +55,7 @@ class EarthDlg : public QDialog {
   NumberEdit* FieldEdit(SpectrumField field);
   void ShowValues(const SpectrumSettings& s);
   SpectrumSettings ReadValues();
-  void Compute(CZELwDoc& doc, InputFile file);
+  void Compute(CZELwDoc& doc, const SpectrumSettings& settings);
 
   DialogHost& host_;
   RecordChooser* chooser_;

@@ -1,14 +1,10 @@
 #include "core/records/response_spectrum.h"
 
 #include <algorithm>
-#include <span>
-#include <utility>
 #include <vector>
 
 #include "core/records/chart_setup.h"
 #include "core/records/oscillator.h"
-#include "core/records/record_reader.h"
-#include "core/records/spectrum_kernel.h"
 
 namespace zel {
 namespace {
@@ -37,9 +33,7 @@ PeakResponse ResponseOfKind(int kind) {
 }
 
 // The ordinate of `kind` from the peak the kind reports.
-double SpectralValue(int kind, double peak, double omega, double gravity,
-                     bool results_in_g) {
-  const double divisor = results_in_g ? 1.0 : gravity;
+double SpectralValue(int kind, double peak, double omega, double divisor) {
   switch (kind) {
     case kPseudoAcceleration:
       return peak * (omega * omega) / divisor;
@@ -53,31 +47,78 @@ double SpectralValue(int kind, double peak, double omega, double gravity,
   }
 }
 
-// Periods integrated between two progress reports: about four million
-// oscillator steps, never fewer than 64 periods.
-int PeriodsPerReport(int record_length) {
-  constexpr int kStepsPerReport = 1 << 22;
-  return std::max(64, kStepsPerReport / std::max(record_length, 1));
-}
-
-bool CheckSettings(const CZELwDoc& doc, MessageSink& messages) {
-  if (doc.period_steps < 1 || doc.period_steps > kMaxPeriods) {
+bool CheckSettings(const SpectrumSettings& s, MessageSink& messages) {
+  if (s.period_count < 1 || s.period_count > kMaxPeriods) {
     messages.Show("Error : The number of periods must be 1 to 5000!");
     return false;
   }
-  if (doc.curve_count < 1 || doc.curve_count > kMaxCurves) {
+  if (s.damping_count < 1 || s.damping_count > kMaxCurves) {
     messages.Show("Error : The number of damping ratios must be 1 to 6!");
     return false;
   }
-  if (doc.spectrum_kind < kPseudoAcceleration ||
-      doc.spectrum_kind > kCombinedDVA) {
+  if (s.kind < kPseudoAcceleration || s.kind > kCombinedDVA) {
     messages.Show("Error : Unknown spectrum kind!");
     return false;
   }
   return true;
 }
 
+// Stores the points of the oscillators whose peaks are final, in curve and
+// period order, and tells the caller how far the curves have come.
+class PointWriter {
+ public:
+  PointWriter(CZELwDoc& doc, const SpectrumSettings& settings,
+              const std::vector<double>& periods,
+              const std::vector<double>& omegas,
+              const std::vector<double>& peaks,
+              const SpectrumProgress& progress)
+      : doc_(doc),
+        kind_(settings.kind),
+        divisor_(settings.results_in_g ? 1.0 : doc.gravity),
+        count_(static_cast<std::size_t>(settings.period_count)),
+        periods_(periods),
+        omegas_(omegas),
+        peaks_(peaks),
+        progress_(progress) {}
+
+  void StoreUpTo(std::size_t done) {
+    const std::size_t before = stored_;
+    for (; stored_ < done; ++stored_) {
+      const std::size_t k = stored_ / count_;
+      const std::size_t j = stored_ % count_;
+      doc_.SetPoint(static_cast<int>(j), static_cast<int>(k), periods_[j],
+                    SpectralValue(kind_, peaks_[stored_], omegas_[j], divisor_),
+                    0);
+      // A curve finished within this batch reports its last period first.
+      if (j + 1 == count_ && stored_ + 1 < done) Report(j);
+    }
+    if (stored_ > before) Report((stored_ - 1) % count_);
+  }
+
+ private:
+  void Report(std::size_t j) {
+    if (progress_) progress_(static_cast<int>(j), static_cast<int>(count_));
+  }
+
+  CZELwDoc& doc_;
+  int kind_;
+  double divisor_;
+  std::size_t count_;
+  const std::vector<double>& periods_;
+  const std::vector<double>& omegas_;
+  const std::vector<double>& peaks_;
+  const SpectrumProgress& progress_;
+  std::size_t stored_ = 0;
+};
+
 }  // namespace
+
+double FirstPeriod(const SpectrumSettings& settings) {
+  if (settings.kind == kCombinedDVA || settings.log_axis) {
+    return std::max(settings.period_from, kLowestLogPeriod);
+  }
+  return settings.period_from;
+}
 
 void PrepareSpectrumDocument(CZELwDoc& doc, const SpectrumSettings& settings) {
   const int kind = settings.kind;
@@ -88,18 +129,14 @@ void PrepareSpectrumDocument(CZELwDoc& doc, const SpectrumSettings& settings) {
   doc.amplitude_scale = settings.amplitude_scale;
   doc.time_scale = settings.time_scale;
   doc.record_name = settings.record_name;
+  doc.results_in_g = settings.results_in_g ? 1 : 0;
   doc.type = TypeWordOfKind(kind);
-
-  double from = settings.period_from;
   if (kind == kCombinedDVA) {
-    from = std::max(from, kLowestLogPeriod);
     if (doc.log_x == 0) doc.ToggleLogX();
     if (doc.log_y == 0) doc.ToggleLogY();
     doc.tripartite = 1;
   }
-  if (settings.log_axis) from = std::max(from, kLowestLogPeriod);
-
-  doc.period_from = from;
+  doc.period_from = FirstPeriod(settings);
   doc.period_to = settings.period_to;
   doc.period_steps = settings.period_count;
   doc.spectrum_kind = kind;
@@ -109,65 +146,51 @@ void PrepareSpectrumDocument(CZELwDoc& doc, const SpectrumSettings& settings) {
   doc.damping_flag = 1;
 }
 
-int ComputeResponseSpectrum(CZELwDoc& doc, InputFile file,
-                            MessageSink& messages,
-                            const SpectrumProgress& progress) {
-  if (!CheckSettings(doc, messages)) return 0;
-  if (ReadRecordFile(doc, std::move(file), messages, TimeStepUse::kNeeded) !=
-      1) {
-    messages.Show("an Error occurred while reading data!");
-    return 0;
-  }
-  if (doc.log_period_axis != 0 && doc.tripartite == 0 && doc.log_x == 0) {
+int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
+                            std::span<const RecordSample> record,
+                            double time_step, MessageSink& messages,
+                            const SpectrumRun& run) {
+  if (!CheckSettings(settings, messages)) return 0;
+  if (settings.log_axis && settings.kind != kCombinedDVA && doc.log_x == 0) {
     doc.ToggleLogX();
   }
 
-  const int n = static_cast<int>(doc.record_samples.size());
-  std::vector<double> accel(static_cast<std::size_t>(n));
-  for (int i = 0; i < n; ++i) accel[i] = doc.record_samples[i].value;
-  const bool starts_at_zero = n > 0 && doc.record_samples[0].time == 0.0;
-  const std::vector<double> forcing = BuildForcing(accel, starts_at_zero);
+  std::vector<double> accel(record.size());
+  for (std::size_t i = 0; i < record.size(); ++i) accel[i] = record[i].value;
+  const std::vector<double> forcing =
+      BuildForcing(accel, !record.empty() && record[0].time == 0.0);
 
-  const int count = doc.period_steps;
-  const int kind = doc.spectrum_kind;
-  const double dt = doc.record_time_step;
+  const int count = settings.period_count;
+  const double from = FirstPeriod(settings);
   std::vector<double> periods(count);
   std::vector<double> omegas(count);
   for (int j = 0; j < count; ++j) {
-    periods[j] = GridPeriod(doc.period_from, doc.period_to, count, j);
+    periods[j] = GridPeriod(from, settings.period_to, count, j);
     omegas[j] = kSpectrumTwoPi / periods[j];
   }
-  std::vector<OscillatorCoefficients> oscillators(count);
-  std::vector<double> peaks(count);
-  const int slice = PeriodsPerReport(n);
-  for (int k = 0; k < doc.curve_count; ++k) {
-    for (int j = 0; j < count; ++j) {
-      oscillators[j] =
-          ComputeOscillatorCoefficients(omegas[j], doc.damping[k], dt);
-    }
-    // The periods are integrated a slice at a time so that progress is
-    // reported while a long record is still being worked on.
-    for (int first = 0; first < count; first += slice) {
-      const int size = std::min(slice, count - first);
-      IntegratePeaks(forcing,
-                     std::span<const OscillatorCoefficients>(oscillators)
-                         .subspan(first, size),
-                     ResponseOfKind(kind),
-                     std::span<double>(peaks).subspan(first, size));
-      for (int j = first; j < first + size; ++j) {
-        doc.SetPoint(j, k, periods[j],
-                     SpectralValue(kind, peaks[j], omegas[j], doc.gravity,
-                                   doc.results_in_g == 1),
-                     0);
-        if (progress) progress(j, count);
-      }
-    }
-  }
+  const std::size_t oscillators =
+      static_cast<std::size_t>(count) * settings.damping_count;
+  std::vector<double> peaks(oscillators);
+
+  // Every damping ratio with every period, in the order the points are
+  // stored; the coefficients are computed by the integrating threads.
+  PeakJob job;
+  job.forcing = forcing;
+  job.count = oscillators;
+  job.oscillator = [&](std::size_t o) {
+    return ComputeOscillatorCoefficients(
+        omegas[o % count], settings.damping[o / count], time_step);
+  };
+  job.response = ResponseOfKind(settings.kind);
+  job.peaks = peaks.data();
+  PointWriter writer(doc, settings, periods, omegas, peaks, run.progress);
+  IntegratePeaks(job, run.kernel,
+                 [&](std::size_t done) { writer.StoreUpTo(done); });
 
   doc.SetAxisTitle(1, doc.BuildYAxisTitle());
   doc.SetAxisTitle(0, "Period Tn (sec)");
   doc.title = "Earthquake Response Spectrum";
-  doc.subtitle = doc.record_name;
+  doc.subtitle = settings.record_name;
   SetUpChart(doc);
   doc.SetDampingLegend();
   doc.axis_display = doc.axis_display == 0 ? 1 : 0;

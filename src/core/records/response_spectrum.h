@@ -5,11 +5,12 @@
 
 #include <array>
 #include <functional>
+#include <span>
 #include <string>
 
 #include "core/document/curve_document.h"
-#include "core/document/input_file.h"
 #include "core/document/messages.h"
+#include "core/records/spectrum_kernel.h"
 
 namespace zel {
 
@@ -29,29 +30,49 @@ struct SpectrumSettings {
   int period_count = 200;
   int kind = kPseudoAcceleration;
   bool log_axis = false;
+  // The record's values stay in g and acceleration ordinates are not
+  // divided by g.
+  bool results_in_g = false;
 };
 
+// The first period of the grid: "from", raised to kLowestLogPeriod on a
+// logarithmic period axis and for the tripartite kind.
+double FirstPeriod(const SpectrumSettings& settings);
+
 // Fills a new document with the settings as the dialog does before the
-// computation: unit and type words by kind, scales, record name, the
-// tripartite set-up of kind 5, the lowest period of a logarithmic axis, the
-// grid, the damping ratios and the response-spectrum mark.
+// record is read: unit and type words by kind, scales, record name, the
+// tripartite set-up of kind 5, the grid from FirstPeriod, the damping ratios
+// and the response-spectrum mark.
 void PrepareSpectrumDocument(CZELwDoc& doc, const SpectrumSettings& settings);
 
-// Called on the calling thread after each period: position j of 0..range-1;
-// it runs through the range once per damping ratio.
+// Called on the calling thread as the spectra advance: the points of the
+// curve being filled are stored up to period `position` of 0..range-1. The
+// position rises to range - 1 for each damping ratio in turn; not every
+// period is reported.
 using SpectrumProgress = std::function<void(int position, int range)>;
 
-// Reads the record from `file` and stores, for damping
-// curve k and period j, the point (period, spectral value) through SetPoint
-// without the last mark; then titles the chart and sets the "Damping :"
-// legend. Returns 1 when the spectra were computed, 0 after a message (read
-// failure, or a period count outside 1..5000, a damping count outside 1..6
-// or an unknown kind, which the dialog never passes). Damping ratios of 1 or
-// more give non-finite ordinates; records too short for a time step are
-// refused by the reader.
-int ComputeResponseSpectrum(CZELwDoc& doc, InputFile file,
-                            MessageSink& messages,
-                            const SpectrumProgress& progress = {});
+// How a computation runs; the ordinates do not depend on it, except that
+// KernelOptions::displacement_recurrence = false gives the reference step
+// loop's bits for the displacement kinds too.
+struct SpectrumRun {
+  SpectrumProgress progress;
+  KernelOptions kernel;
+};
+
+// Computes the spectra of `record` (time step `time_step`, values as the
+// record reader stores them) for `settings` and stores, for damping curve k
+// and period j, the point (period, spectral value) through SetPoint without
+// the last mark; then titles the chart, sets the "Damping :" legend and
+// toggles the axis display. The document is expected to be prepared by
+// PrepareSpectrumDocument; nothing is read back from it but its unit.
+// Returns 1, or 0 after a message when the settings are outside what the
+// dialog passes (a period count outside 1..5000, a damping count outside
+// 1..6, an unknown kind). Damping ratios of 1 or more give ordinates of 0,
+// as does a time step of 0.
+int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
+                            std::span<const RecordSample> record,
+                            double time_step, MessageSink& messages,
+                            const SpectrumRun& run = {});
 
 }  // namespace zel
 

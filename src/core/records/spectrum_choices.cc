@@ -11,6 +11,9 @@ constexpr std::array<const char*, 6> kTypeNames = {
     "Relative Displacement", "Combined D-V-A (Tripartite)",
 };
 
+constexpr std::array<const char*, 6> kKindWords = {"psa", "psv", "sa",
+                                                   "sv",  "sd",  "dva"};
+
 constexpr ValueRange kAmplitude{0.0, 100.0};
 constexpr ValueRange kPeriod{0.0, 100.0};
 constexpr ValueRange kPeriodCount{1.0, kMaxPeriods, true};
@@ -33,6 +36,15 @@ constexpr std::array<FieldCheck, 10> kChecks = {{
 }  // namespace
 
 std::span<const char* const> SpectrumTypeNames() { return kTypeNames; }
+
+std::span<const char* const> SpectrumKindWords() { return kKindWords; }
+
+int SpectrumKindOfWord(std::string_view word) {
+  for (std::size_t kind = 0; kind < kKindWords.size(); ++kind) {
+    if (word == kKindWords[kind]) return static_cast<int>(kind);
+  }
+  return -1;
+}
 
 SpectrumSettings DefaultSpectrumChoices() {
   SpectrumSettings s;
@@ -58,5 +70,12 @@ PeriodAxisPreset PeriodPresetForKind(int kind) {
 double PeriodToForLogAxis(bool log) { return log ? 10.0 : 3.0; }
 
 std::span<const FieldCheck> SpectrumFieldChecks() { return kChecks; }
+
+ValueRange SpectrumFieldRange(SpectrumField field) {
+  for (const FieldCheck& check : kChecks) {
+    if (check.field == field) return check.range;
+  }
+  return {};
+}
 
 }  // namespace zel

@@ -1,10 +1,12 @@
-// The choices of the response-spectrum dialog: its spectrum types, its
-// starting values, the period axis each type suggests, and the ranges its
-// fields are checked against, in the order they are checked.
+// The choices of the response-spectrum dialog and of "zel-cli spectrum": the
+// spectrum types and their command-line words, the starting values, the
+// period axis each type suggests, and the ranges the fields are checked
+// against, in the order they are checked.
 #ifndef ZEL_CORE_RECORDS_SPECTRUM_CHOICES_H_
 #define ZEL_CORE_RECORDS_SPECTRUM_CHOICES_H_
 
 #include <span>
+#include <string_view>
 
 #include "core/records/range_check.h"
 #include "core/records/response_spectrum.h"
@@ -13,6 +15,12 @@ namespace zel {
 
 // The spectrum types in list order; a type's position is its kind number.
 std::span<const char* const> SpectrumTypeNames();
+
+// The command line's words for the types, in the same order: psa, psv, sa,
+// sv, sd, dva.
+std::span<const char* const> SpectrumKindWords();
+// The kind named by `word`, or -1.
+int SpectrumKindOfWord(std::string_view word);
 
 // The values the dialog opens with: one damping ratio of 0.0 enabled out of
 // 0.0, 0.01, 0.02, 0.05, 0.1 and 0.2, periods from 0.01 to 10.0 in 200
@@ -55,6 +63,9 @@ struct FieldCheck {
 // Every checked field in the order OK checks them; the first failure stops
 // the check. Disabled damping edits are checked too.
 std::span<const FieldCheck> SpectrumFieldChecks();
+
+// The range `field` is checked against.
+ValueRange SpectrumFieldRange(SpectrumField field);
 
 }  // namespace zel
 

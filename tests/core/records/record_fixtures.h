@@ -82,11 +82,17 @@ inline SpectrumSettings Settings(int kind, const std::vector<double>& damping,
 // it; its messages go to `messages` when given.
 inline CZELwDoc SpectrumOf(const std::string& bytes,
                            const SpectrumSettings& settings,
-                           std::vector<std::string>* messages = nullptr) {
+                           std::vector<std::string>* messages = nullptr,
+                           const SpectrumRun& run = {}) {
   CZELwDoc doc;
   PrepareSpectrumDocument(doc, settings);
   MessageLog log;
-  ComputeResponseSpectrum(doc, OpenBytes(bytes), log);
+  if (ReadRecordFile(doc, OpenBytes(bytes), log, TimeStepUse::kNeeded) == 1) {
+    ComputeResponseSpectrum(doc, settings, doc.record_samples,
+                            doc.record_time_step, log, run);
+  } else {
+    log.Show(kRecordReadFailedMessage);
+  }
   if (messages != nullptr) *messages = log.texts();
   return doc;
 }

@@ -3,12 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
-#include <complex>
 #include <string>
 #include <vector>
 
-#include "core/document/data_file.h"
 #include "core/records/record_fixtures.h"
 
 namespace zel {
@@ -16,7 +15,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using zel::testing::EvenRecord;
-using zel::testing::OpenBytes;
 using zel::testing::Settings;
 using zel::testing::SpectrumOf;
 
@@ -39,124 +37,73 @@ std::vector<double> Quake(int n) {
   return a;
 }
 
-// Undamped, the oscillator obeys d'' + w^2 d = -a(t) from rest; its exact
-// responses to a step A and a ramp r t of ground acceleration are
-// d = -A (1 - cos wt) / w^2 and d = -r (t - sin(wt) / w) / w^2.
-TEST(ResponseSpectrumTest, UndampedStepAndRampMatchTheClosedForms) {
-  // Step: period 1 s, a record of 2 s; the first half period lies on a
-  // sample. Peaks: |d| = 2A / w^2, |v| = A / w, |d'' + a| = 2A.
-  const double a = 0.3, g = 9815.0, w = kTwoPiZel;
-  const std::string step = EvenRecord(std::vector<double>(401, a), 0.005);
+// The oscillator obeys d'' + 2 zeta w d' + w^2 d = -a(t) from rest. Its
+// exact response to a step A of ground acceleration is
+// d = -A/w^2 (1 - e^(-zeta w t) (cos wd t + zeta / sqrt(1 - zeta^2) sin wd t)),
+// d' = -A/wd e^(-zeta w t) sin wd t, and d'' + A = -w^2 d - 2 zeta w d';
+// to a ramp r t, undamped, d = -r (t - sin(wt) / w) / w^2.
+TEST(ResponseSpectrumTest, StepAndRampMatchTheClosedForms) {
+  // Period 1 s, 1 s of record at 0.005 s, the exact responses taken at the
+  // samples. Light damping agrees to 1e-4: ZEL's rotation rate (from wd,
+  // not w) departs from the exact oscillator, more so in the velocity.
+  const double a = 0.3, g = 9815.0, w = kTwoPiZel, dt = 0.005;
+  const std::string step = EvenRecord(std::vector<double>(201, a), dt);
   const struct {
-    double exact;
     const char* title;
     const char* type;
     const char* unit;
-  } kinds[] = {
-      {2 * a, "Pseudo Acceleration (g)", "ACCEL", "GRAV"},
-      {2 * a * g / w, "Pseudo Velocity (mm/sec)", "VELO", "MM"},
-      {2 * a, "Absolute Acceleration (g)", "ACCEL", "GRAV"},
-      {a * g / w, "Relative Velocity (mm/sec)", "VELO", "MM"},
-      {2 * a * g / (w * w), "Relative Displacement (mm)", "DISP", "MM"},
-      {2 * a * g / w, "Pseudo Velocity (mm/sec)", "VELO", "MM"}};
-  for (int kind = 0; kind < 6; ++kind) {
-    const CZELwDoc doc = SpectrumOf(step, Settings(kind, {0.0}, 1, 2, 1));
-    const double exact = kinds[kind].exact;
-    EXPECT_NEAR(Ordinate(doc, 0, 0), exact, exact * 1e-9) << kind;
-    EXPECT_EQ(doc.AxisTitle(1), kinds[kind].title);
-    EXPECT_EQ(doc.type, kinds[kind].type);
-    EXPECT_EQ(doc.unit, kinds[kind].unit);
-    EXPECT_EQ(doc.tripartite, kind == 5 ? 1 : 0);
-    EXPECT_EQ(doc.log_x + doc.log_y, kind == 5 ? 2 : 0);
+  } kinds[] = {{"Pseudo Acceleration (g)", "ACCEL", "GRAV"},
+               {"Pseudo Velocity (mm/sec)", "VELO", "MM"},
+               {"Absolute Acceleration (g)", "ACCEL", "GRAV"},
+               {"Relative Velocity (mm/sec)", "VELO", "MM"},
+               {"Relative Displacement (mm)", "DISP", "MM"},
+               {"Pseudo Velocity (mm/sec)", "VELO", "MM"}};
+  for (double zeta : {0.0, 0.02}) {
+    const double root = std::sqrt(1 - zeta * zeta), wd = w * root;
+    double sd = 0, sv = 0, sa = 0;
+    for (int i = 1; i <= 200; ++i) {
+      const double t = i * dt, decay = std::exp(-zeta * w * t);
+      const double d =
+          -a * g / (w * w) *
+          (1 - decay * (std::cos(wd * t) + zeta / root * std::sin(wd * t)));
+      const double v = -a * g / wd * decay * std::sin(wd * t);
+      sd = std::max(sd, std::fabs(d));
+      sv = std::max(sv, std::fabs(v));
+      sa = std::max(sa, std::fabs(w * w * d + 2 * zeta * w * v) / g);
+    }
+    const double exact[] = {sd * w * w / g, sd * w, sa, sv, sd, sd * w};
+    for (int kind = 0; kind < 6; ++kind) {
+      SCOPED_TRACE(::testing::Message() << zeta << " " << kind);
+      const CZELwDoc doc = SpectrumOf(step, Settings(kind, {zeta}, 1, 2, 1));
+      EXPECT_NEAR(Ordinate(doc, 0, 0), exact[kind],
+                  exact[kind] * (zeta == 0 ? 1e-9 : 1e-4));
+      EXPECT_EQ(doc.AxisTitle(1), kinds[kind].title);
+      EXPECT_EQ(doc.type, kinds[kind].type);
+      EXPECT_EQ(doc.unit, kinds[kind].unit);
+      EXPECT_EQ(doc.tripartite, kind == 5 ? 1 : 0);
+      EXPECT_EQ(doc.log_x + doc.log_y, kind == 5 ? 2 : 0);
+      EXPECT_EQ(doc.window_title, "Earthquake Response Spectrum");
+      EXPECT_EQ(doc.subtitle, "test");
+      EXPECT_EQ(doc.AxisTitle(0), "Period Tn (sec)");
+      EXPECT_EQ(doc.chart.legend.title, "Damping :");
+      EXPECT_THAT(doc.chart.legend.entries,
+                  ElementsAre(zeta == 0 ? " 0.00" : " 0.02"));
+      EXPECT_EQ(doc.axis_display, 1);
+    }
   }
 
   // Ramp: a record whose first time is dt follows the ground from rest at
   // t = 0, so every step lies on the ramp; the displacement grows
   // monotonically and peaks at the last sample.
-  const double rate = 0.2, dt = 0.005;  // g per second
+  const double rate = 0.2;  // g per second
   std::vector<double> ramp(1000);
   for (int i = 0; i < 1000; ++i) ramp[i] = rate * (i + 1) * dt;
   for (double period : {0.37, 1.3, 4.1}) {
     const CZELwDoc doc = SpectrumOf(EvenRecord(ramp, dt, dt),
                                     Settings(4, {0.0}, period, 2 * period, 1));
     const double w = kTwoPiZel / period, t = 1000 * dt;
-    const double d_end = rate * 9815.0 * (t - std::sin(w * t) / w) / (w * w);
+    const double d_end = rate * g * (t - std::sin(w * t) / w) / (w * w);
     EXPECT_NEAR(Ordinate(doc, 0, 0), d_end, d_end * 1e-9) << period;
-  }
-}
-
-// The step loop of a record starting at 0.0, written out independently with
-// complex exponentials for the free oscillation: e^{(-zeta w + i wd) dt} =
-// C + i S.
-double DirectPeakDisplacement(const std::vector<double>& accel, double period,
-                              double zeta, double dt) {
-  const double w = kTwoPiZel / period;
-  const double wd = w * std::sqrt(1 - zeta * zeta);
-  const std::complex<double> z =
-      std::exp(std::complex<double>(-zeta * w * dt, wd * dt));
-  const double c = z.real(), s = z.imag();
-  const double sigma = wd * zeta;  // the rotation rate as ZEL defines it
-  const double r = zeta / std::sqrt(1 - zeta * zeta);
-  const double s1 = wd * c - sigma * s, c1 = -wd * s - sigma * c;
-  const double k1 = 2 * zeta / (w * dt);
-  // Coefficients of the start and end forcing (divided by w^2 below).
-  const double start_s = -r * (1 + k1) + 1 / (dt * wd);
-  const double end_s = r * k1 - 1 / (dt * wd);
-  const double a11 = c + r * s, a12 = s / wd;
-  const double a21 = c1 + r * s1, a22 = s1 / wd;
-  const double b1 = (k1 + start_s * s - (1 + k1) * c) / (w * w);
-  const double b2 = (1 - k1 + end_s * s + k1 * c) / (w * w);
-  const double e1 = (-1 / dt + start_s * s1 - (1 + k1) * c1) / (w * w);
-  const double e2 = (1 / dt + end_s * s1 + k1 * c1) / (w * w);
-  double d = 0, v = 0, peak = 0, p = -accel[0];
-  for (std::size_t i = 0; i < accel.size(); ++i) {
-    const double q = i + 1 < accel.size() ? -accel[i + 1] : 0.0;
-    const double dn = a11 * d + a12 * v + b1 * p + b2 * q;
-    v = a21 * d + a22 * v + e1 * p + e2 * q;
-    d = dn;
-    p = q;
-    peak = std::max(peak, std::fabs(d));
-  }
-  return peak;
-}
-
-TEST(ResponseSpectrumTest, DampedCurvesFollowTheRecurrenceOfEveryKind) {
-  const std::vector<double> accel = Quake(1500);
-  const std::string text = EvenRecord(accel, 0.01);
-  const std::vector<double> damping = {0.0, 0.02, 0.05, 0.1, 0.2, 0.5};
-  const CZELwDoc doc = SpectrumOf(text, Settings(4, damping, 0.05, 4.05, 40));
-  ASSERT_EQ(doc.curve_count, 6);
-  for (int k = 0; k < 6; ++k) {
-    EXPECT_EQ(doc.point_count[k], 39);  // stored without the last mark
-    for (int j = 0; j < 40; ++j) {
-      const double period = 0.05 + j * 0.1;
-      const double expected =
-          DirectPeakDisplacement(accel, period, damping[k], 0.01) * 9815.0;
-      EXPECT_NEAR(Ordinate(doc, k, j), expected, 1e-10 * expected)
-          << "zeta " << damping[k] << " T " << period;
-    }
-  }
-  EXPECT_EQ(doc.title, "Earthquake Response Spectrum");
-  EXPECT_EQ(doc.window_title, "Earthquake Response Spectrum");
-  EXPECT_EQ(doc.subtitle, "test");
-  EXPECT_EQ(doc.AxisTitle(0), "Period Tn (sec)");
-  EXPECT_EQ(doc.chart.legend.title, "Damping :");
-  EXPECT_THAT(doc.chart.legend.entries, ElementsAre(" 0.00", " 0.02", " 0.05",
-                                                    " 0.10", " 0.20", " 0.50"));
-  EXPECT_EQ(doc.axis_display, 1);
-
-  // Pseudo values from the same displacement peaks, with w, not the damped
-  // frequency; kind 5 stores kind 1's values.
-  const CZELwDoc psa = SpectrumOf(text, Settings(0, damping, 0.05, 4.05, 40));
-  const CZELwDoc psv = SpectrumOf(text, Settings(1, damping, 0.05, 4.05, 40));
-  const CZELwDoc dva = SpectrumOf(text, Settings(5, damping, 0.05, 4.05, 40));
-  for (int k = 0; k < 6; ++k) {
-    for (int j = 0; j < 40; ++j) {
-      const double w = kTwoPiZel / Period(doc, k, j);
-      EXPECT_DOUBLE_EQ(Ordinate(psa, k, j), Ordinate(doc, k, j) * w * w / 9815);
-      EXPECT_DOUBLE_EQ(Ordinate(psv, k, j), Ordinate(doc, k, j) * w);
-      EXPECT_EQ(Ordinate(dva, k, j), Ordinate(psv, k, j));
-    }
   }
 }
 
@@ -170,24 +117,21 @@ TEST(ResponseSpectrumTest, GridZeroPeriodAndStartOfRecord) {
   for (double a : accel) pga = std::max(pga, std::fabs(a));
 
   // Half-open grid: 0 (substituted), 0.01, ..., 2.99; 3.0 is not computed.
+  // The zero-period pseudo acceleration is the peak ground acceleration.
   const CZELwDoc doc = SpectrumOf(text, Settings(0, {0.0, 0.05}, 0, 3, 300));
-  EXPECT_EQ(Period(doc, 0, 0), 1.000000013351432e-10);
-  EXPECT_EQ(Period(doc, 1, 0), 1.000000013351432e-10);
+  EXPECT_EQ(doc.StoredPoints(0), 300u);
+  for (int k : {0, 1}) {
+    EXPECT_EQ(Period(doc, k, 0), 1.000000013351432e-10);
+    EXPECT_NEAR(Ordinate(doc, k, 0), pga, pga * 1e-6);
+  }
   EXPECT_EQ(Period(doc, 0, 1), 0.01);
   EXPECT_EQ(Period(doc, 0, 123), 1.23);
   EXPECT_EQ(Period(doc, 0, 299), 2.99);
-  EXPECT_EQ(doc.StoredPoints(0), 300u);
-  // Zero-period pseudo acceleration = peak ground acceleration, in g.
-  EXPECT_NEAR(Ordinate(doc, 0, 0), pga, pga * 1e-6);
-  EXPECT_NEAR(Ordinate(doc, 1, 0), pga, pga * 1e-6);
 
   // Results in g: acceleration kinds are not divided by g.
-  CZELwDoc in_g;
-  PrepareSpectrumDocument(in_g, Settings(2, {0.05}, 0.0, 1.0, 2));
-  in_g.results_in_g = 1;
-  MessageLog log;
-  ASSERT_EQ(ComputeResponseSpectrum(in_g, OpenBytes(text), log), 1);
-  EXPECT_NEAR(Ordinate(in_g, 0, 0), pga, pga * 1e-6);
+  SpectrumSettings in_g = Settings(2, {0.05}, 0.0, 1.0, 2);
+  in_g.results_in_g = true;
+  EXPECT_NEAR(Ordinate(SpectrumOf(text, in_g), 0, 0), pga, pga * 1e-6);
 
   // N = 1: a single point at "from".
   const CZELwDoc one = SpectrumOf(text, Settings(0, {0.05}, 0.5, 3.0, 1));
@@ -200,6 +144,7 @@ TEST(ResponseSpectrumTest, GridZeroPeriodAndStartOfRecord) {
   log_axis.log_axis = true;
   const CZELwDoc logged = SpectrumOf(text, log_axis);
   EXPECT_EQ(Period(logged, 0, 0), 0.009999999776482582);
+  EXPECT_EQ(logged.period_from, 0.009999999776482582);
   EXPECT_EQ(logged.log_x, 1);
   EXPECT_EQ(logged.log_y, 0);
 
@@ -224,75 +169,81 @@ TEST(ResponseSpectrumTest, GrowthAtLongPeriodsAndBadSettingsNeverBreak) {
   // long-period oscillator grow without bound: zeta 0.2 beyond about 8 s at
   // dt = 0.005. That is ZEL's established behaviour.
   const std::string text = EvenRecord(Quake(8000), 0.005);
-  CZELwDoc doc = SpectrumOf(text, Settings(4, {0.05, 0.2}, 2.0, 20.0, 9));
+  const CZELwDoc doc = SpectrumOf(text, Settings(4, {0.05, 0.2}, 2.0, 20.0, 9));
   EXPECT_LT(Ordinate(doc, 1, 1), Ordinate(doc, 0, 1));  // 4 s: damped less
   EXPECT_GT(Ordinate(doc, 1, 4), 1e3 * Ordinate(doc, 0, 4));  // 10 s: grown
   EXPECT_GT(Ordinate(doc, 1, 8), 1e6 * Ordinate(doc, 0, 8));  // 18 s
-  // Over a record of the full 50000 samples it passes 1e30 mm.
-  const CZELwDoc huge = SpectrumOf(EvenRecord(Quake(50000), 0.005),
-                                   Settings(4, {0.2}, 20.0, 40.0, 1));
-  EXPECT_GT(Ordinate(huge, 0, 0), 1e30);
-  // Infinite and NaN ordinates write and read back.
-  doc.SetPoint(1, 0, 1.0, INFINITY, 0);
-  doc.SetPoint(2, 0, 2.0, NAN, 1);
-  zel::testing::TempDir dir;
-  MessageLog log;
-  ASSERT_TRUE(WriteDataFile(doc, (dir / "odd.zel").string(), log));
-  CZELwDoc back;
-  EXPECT_EQ(ReadDataFile(back, (dir / "odd.zel").string(), log), 1);
-  EXPECT_TRUE(std::isinf(back.store().Value(1, 1)));
-  EXPECT_TRUE(std::isnan(back.store().Value(2, 1)));
 
   // Critical damping makes every response NaN; a NaN never replaces the
   // running peak, so the ordinates stay 0. A time step of 0 (time scale 0)
   // or none at all (three points) is refused by the reader: no points.
+  // From = to: every period is "from".
   EXPECT_EQ(Ordinate(SpectrumOf(text, Settings(0, {1.0}, 0.1, 1, 3)), 0, 1),
             0.0);
   SpectrumSettings zero_time = Settings(0, {0.05}, 0.1, 1.0, 3);
   zero_time.time_scale = 0.0;
   EXPECT_EQ(SpectrumOf(text, zero_time).StoredPoints(0), 0u);
-  EXPECT_EQ(SpectrumOf(EvenRecord({0.1, 0.2, 0.3}, 0.01),
-                       Settings(0, {0.05}, 0.1, 1.0, 3))
-                .StoredPoints(0),
-            0u);
-
-  // From = to: every period is "from".
+  EXPECT_EQ(
+      SpectrumOf(EvenRecord({0.1, 0.2, 0.3}, 0.01), zero_time).StoredPoints(0),
+      0u);
   const CZELwDoc same = SpectrumOf(text, Settings(0, {0.05}, 1.0, 1.0, 4));
   EXPECT_EQ(Period(same, 0, 3), 1.0);
   EXPECT_EQ(Ordinate(same, 0, 3), Ordinate(same, 0, 0));
 
-  // Settings the dialog never passes are refused with a message; a read
-  // failure gives the reader's message, then the spectrum's. No points.
-  const auto refused = [](const std::string& record, SpectrumSettings s) {
-    std::vector<std::string> messages;
-    EXPECT_EQ(SpectrumOf(record, s, &messages).StoredPoints(0), 0u);
-    return messages;
+  // Settings the dialog never passes are refused with a message and no
+  // points.
+  const struct {
+    SpectrumSettings settings;
+    const char* message;
+  } refusals[] = {
+      {Settings(0, {0.05}, 0.1, 1.0, 0),
+       "Error : The number of periods must be 1 to 5000!"},
+      {Settings(0, {0.05}, 0.1, 1.0, 5001),
+       "Error : The number of periods must be 1 to 5000!"},
+      {Settings(7, {0.05}, 0.1, 1.0, 3), "Error : Unknown spectrum kind!"},
+      {Settings(0, {}, 0.1, 1.0, 3),
+       "Error : The number of damping ratios must be 1 to 6!"},
   };
-  EXPECT_THAT(refused(text, Settings(0, {0.05}, 0.1, 1.0, 0)),
-              ElementsAre("Error : The number of periods must be 1 to 5000!"));
-  EXPECT_THAT(refused(text, Settings(0, {0.05}, 0.1, 1.0, 5001)),
-              ElementsAre("Error : The number of periods must be 1 to 5000!"));
-  EXPECT_THAT(refused(text, Settings(7, {0.05}, 0.1, 1.0, 3)),
-              ElementsAre("Error : Unknown spectrum kind!"));
-  EXPECT_THAT(
-      refused(text, Settings(0, {}, 0.1, 1.0, 3)),
-      ElementsAre("Error : The number of damping ratios must be 1 to 6!"));
-  EXPECT_THAT(refused("garbage\n", Settings(0, {0.05}, 0.1, 1.0, 3)),
-              ElementsAre("Error : Wrong Format!",
-                          "an Error occurred while reading data!"));
+  for (const auto& r : refusals) {
+    std::vector<std::string> messages;
+    EXPECT_EQ(SpectrumOf(text, r.settings, &messages).StoredPoints(0), 0u);
+    EXPECT_THAT(messages, ElementsAre(r.message));
+  }
 }
 
-TEST(ResponseSpectrumTest, ProgressRunsThroughThePeriodsOfEachCurve) {
-  CZELwDoc doc;
-  PrepareSpectrumDocument(doc, Settings(0, {0.02, 0.05}, 0.1, 1.0, 5));
-  std::vector<int> positions;
-  MessageLog log;
-  ComputeResponseSpectrum(doc, OpenBytes(EvenRecord(Quake(300), 0.01)), log,
-                          [&](int position, int range) {
-                            EXPECT_EQ(range, 5);
-                            positions.push_back(position);
-                          });
-  EXPECT_THAT(positions, ElementsAre(0, 1, 2, 3, 4, 0, 1, 2, 3, 4));
+TEST(ResponseSpectrumTest, ProgressRisesThroughEachCurveOnceItsPointsAreIn) {
+  // On one thread the calling thread reports after every block; on two it
+  // only reports while the workers integrate.
+  const SpectrumSettings settings = Settings(4, {0.05, 0.2}, 0.1, 2.1, 200);
+  for (int threads : {1, 2}) {
+    CZELwDoc doc;
+    PrepareSpectrumDocument(doc, settings);
+    MessageLog log;
+    ASSERT_EQ(
+        ReadRecordFile(
+            doc, zel::testing::OpenBytes(EvenRecord(Quake(20000), 0.005)), log),
+        1);
+    std::vector<int> positions;
+    bool stored_first = true;
+    SpectrumRun run;
+    run.kernel.threads = threads;
+    run.progress = [&](int position, int range) {
+      EXPECT_EQ(range, 200);
+      const auto curve = std::count(positions.begin(), positions.end(), 199);
+      stored_first = stored_first && doc.StoredPoints(static_cast<int>(curve)) >
+                                         std::size_t(position);
+      positions.push_back(position);
+    };
+    ComputeResponseSpectrum(doc, settings, doc.record_samples,
+                            doc.record_time_step, log, run);
+    EXPECT_TRUE(stored_first) << threads;
+    EXPECT_EQ(std::count(positions.begin(), positions.end(), 199), 2);
+    EXPECT_EQ(positions.back(), 199);
+    for (std::size_t i = 1; i < positions.size(); ++i) {
+      EXPECT_TRUE(positions[i - 1] == 199 || positions[i] > positions[i - 1]);
+    }
+    EXPECT_GE(positions.size(), threads == 1 ? 10u : 1u);
+  }
 }
 
 }  // namespace
