@@ -68,11 +68,14 @@ std::vector<SpectrumPoint> KoreaBridgeSpectrum(const KoreaBridgeParams& p) {
   return SampleSpectrum(
       p.grid, {&corner, 1}, CornerRule::kPastPreviousPeriod, [&](double t) {
         double csm;
-        if (t <= 4.0) {
-          // At T = 0 the branch is infinite and the cap is written; the
-          // negated test also caps the 0 / 0 of a zero coefficient.
+        if (t <= 0.0) {
+          // The branch is infinite at T = 0 and capped there, whatever the
+          // signs of the parameters.
+          csm = cap;
+        } else if (t <= 4.0) {
           csm =
               1.2 * p.area * p.importance * s / (p.r * std::pow(t, 2.0 / 3.0));
+          // Negated so that the 0 / 0 of a zero coefficient and R is capped.
           if (!(csm <= cap)) csm = cap;
         } else {
           csm =

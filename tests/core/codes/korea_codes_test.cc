@@ -75,9 +75,12 @@ TEST(KoreaBridgeTest, CapIsNotDividedByRAndBranchesMeetAtFourSeconds) {
   ASSERT_TRUE(GenerateKoreaBridge(doc, KoreaBridgeParams{}, log));
   EXPECT_EQ(doc.AxisTitle(1), "Csm/R");
   EXPECT_EQ(doc.subtitle, "Soil = 1.0  Area = 0.11  OIF = 1.00  RMC = 1.00");
-  // A zero coefficient gives the zero curve, not 0 / 0 at T = 0.
+  // T = 0 takes the cap whatever the signs: a zero coefficient gives 0,
+  // not 0 / 0, a negative one its cap, not -infinity.
   p.area = 0.0;
   EXPECT_EQ(KoreaBridgeSpectrum(p)[0].sa, 0.0);
+  p.area = -0.1;
+  EXPECT_DOUBLE_EQ(KoreaBridgeSpectrum(p)[0].sa, -0.25);
 }
 
 }  // namespace
