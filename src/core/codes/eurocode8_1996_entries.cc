@@ -49,7 +49,6 @@ CodeEntry Ec8ElasticEntry() {
       .Radio()
       .Number("alpha", "Design Ground Acceleration (g):", &P::alpha)
       .Number("damping", "Viscous Damping Ratio (%) :", &P::damping)
-      .Text("5.0")
       .Grid(&P::grid);
   return code.Build(GenerateEc8Elastic);
 }
