@@ -128,4 +128,14 @@ bool HandOverDefinedSpectrum(CZELwDoc& doc,
   return true;
 }
 
+bool StoreDefinedSpectrum(CZELwDoc& doc, const std::string& title,
+                          const std::string& label,
+                          std::span<const SpectrumPoint> points,
+                          MessageSink& messages,
+                          const std::string& y_axis_title) {
+  if (!CheckDefinedSpectrum(points, messages)) return false;
+  StoreDesignSpectrum(doc, title, label, points, y_axis_title);
+  return true;
+}
+
 }  // namespace zel

@@ -94,6 +94,13 @@ bool HandOverDefinedSpectrum(CZELwDoc& doc,
                              std::span<const SpectrumPoint> points,
                              const std::string& title, const std::string& label,
                              MessageSink& messages);
+// CheckDefinedSpectrum, then the classic hand-over (with the code's own
+// Y-axis title when one is given); false after the message.
+bool StoreDefinedSpectrum(CZELwDoc& doc, const std::string& title,
+                          const std::string& label,
+                          std::span<const SpectrumPoint> points,
+                          MessageSink& messages,
+                          const std::string& y_axis_title = {});
 
 }  // namespace zel
 

@@ -113,13 +113,12 @@ bool GenerateEc8Design(CZELwDoc& doc, const Ec8DesignParams& p,
                    messages) ||
       !CheckChoice(p.regularity, kEc8RegularityFactors.size(),
                    kEc8RegularityLabel, messages) ||
-      !CheckFiniteParameters({{"qo", p.qo}, {"Kw", p.kw}, {"Alpha", p.alpha}},
-                             messages)) {
+      !CheckPrintableParameters(
+          {{"qo", p.qo}, {"Kw", p.kw}, {"Alpha", p.alpha}}, messages)) {
     return false;
   }
-  StoreDesignSpectrum(doc, kEc8DesignTitle, Ec8DesignLabel(p),
-                      Ec8DesignSpectrum(p));
-  return true;
+  return StoreDefinedSpectrum(doc, kEc8DesignTitle, Ec8DesignLabel(p),
+                              Ec8DesignSpectrum(p), messages);
 }
 
 bool GenerateEc8Elastic(CZELwDoc& doc, const Ec8ElasticParams& p,
@@ -131,13 +130,12 @@ bool GenerateEc8Elastic(CZELwDoc& doc, const Ec8ElasticParams& p,
   }
   if (!ValidatePeriodGrid(p.grid, messages) ||
       !CheckChoice(p.soil, kEc8SoilClasses.size(), kEc8SoilLabel, messages) ||
-      !CheckFiniteParameters({{"Alpha", p.alpha}, {"Damping", p.damping}},
-                             messages)) {
+      !CheckPrintableParameters({{"Alpha", p.alpha}, {"Damping", p.damping}},
+                                messages)) {
     return false;
   }
-  StoreDesignSpectrum(doc, kEc8ElasticTitle, Ec8ElasticLabel(p),
-                      Ec8ElasticSpectrum(p));
-  return true;
+  return StoreDefinedSpectrum(doc, kEc8ElasticTitle, Ec8ElasticLabel(p),
+                              Ec8ElasticSpectrum(p), messages);
 }
 
 }  // namespace zel

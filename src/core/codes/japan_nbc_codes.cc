@@ -64,12 +64,11 @@ bool GenerateJapan2000(CZELwDoc& doc, const Japan2000Params& p,
                    messages) ||
       !CheckChoice(p.soil, kJapanCornerPeriods.size(), kJapanSoilLabel,
                    messages) ||
-      !CheckFiniteParameters({{"Co", p.co}}, messages)) {
+      !CheckPrintableParameters({{"Co", p.co}}, messages)) {
     return false;
   }
-  StoreDesignSpectrum(doc, kJapan2000Title, Japan2000Label(p),
-                      Japan2000Spectrum(p));
-  return true;
+  return StoreDefinedSpectrum(doc, kJapan2000Title, Japan2000Label(p),
+                              Japan2000Spectrum(p), messages);
 }
 
 bool GenerateNbc1995(CZELwDoc& doc, const Nbc1995Params& p,
@@ -78,11 +77,11 @@ bool GenerateNbc1995(CZELwDoc& doc, const Nbc1995Params& p,
   if (!ValidatePeriodGrid(p.grid, messages) ||
       !CheckChoice(p.za, kNbcZoneTexts.size(), kNbcZaLabel, messages) ||
       !CheckChoice(p.zv, kNbcZoneTexts.size(), kNbcZvLabel, messages) ||
-      !CheckFiniteParameters({{"v", p.v}}, messages)) {
+      !CheckPrintableParameters({{"v", p.v}}, messages)) {
     return false;
   }
-  StoreDesignSpectrum(doc, kNbc1995Title, Nbc1995Label(p), Nbc1995Spectrum(p));
-  return true;
+  return StoreDefinedSpectrum(doc, kNbc1995Title, Nbc1995Label(p),
+                              Nbc1995Spectrum(p), messages);
 }
 
 }  // namespace zel

@@ -110,13 +110,12 @@ bool GenerateKorea1992(CZELwDoc& doc, const Korea1992Params& p,
   if (!ValidatePeriodGrid(p.grid, messages) ||
       !CheckChoice(p.soil, kKorea1992SoilFactors.size(), kKoreaSoilLabel,
                    messages) ||
-      !CheckFiniteParameters(
+      !CheckPrintableParameters(
           {{"EPA", p.epa}, {"OIF", p.importance}, {"RMC", p.r}}, messages)) {
     return false;
   }
-  StoreDesignSpectrum(doc, kKorea1992Title, Korea1992Label(p),
-                      Korea1992Spectrum(p));
-  return true;
+  return StoreDefinedSpectrum(doc, kKorea1992Title, Korea1992Label(p),
+                              Korea1992Spectrum(p), messages);
 }
 
 bool GenerateKorea2000(CZELwDoc& doc, const Korea2000Params& p,
@@ -127,12 +126,11 @@ bool GenerateKorea2000(CZELwDoc& doc, const Korea2000Params& p,
                    messages) ||
       !CheckChoice(p.area, kKorea2000AreaCoefficients.size(),
                    kKorea2000AreaLabel, messages) ||
-      !CheckFiniteParameters({{"I", p.importance}, {"R", p.r}}, messages)) {
+      !CheckPrintableParameters({{"I", p.importance}, {"R", p.r}}, messages)) {
     return false;
   }
-  StoreDesignSpectrum(doc, kKorea2000Title, Korea2000Label(p),
-                      Korea2000Spectrum(p));
-  return true;
+  return StoreDefinedSpectrum(doc, kKorea2000Title, Korea2000Label(p),
+                              Korea2000Spectrum(p), messages);
 }
 
 bool GenerateKoreaBridge(CZELwDoc& doc, const KoreaBridgeParams& p,
@@ -141,13 +139,13 @@ bool GenerateKoreaBridge(CZELwDoc& doc, const KoreaBridgeParams& p,
   if (!ValidatePeriodGrid(p.grid, messages) ||
       !CheckChoice(p.soil, kKoreaBridgeSoilFactors.size(), kKoreaSoilLabel,
                    messages) ||
-      !CheckFiniteParameters({{"Ar", p.area}, {"R", p.r}, {"I", p.importance}},
-                             messages)) {
+      !CheckPrintableParameters(
+          {{"Ar", p.area}, {"R", p.r}, {"I", p.importance}}, messages)) {
     return false;
   }
-  StoreDesignSpectrum(doc, kKoreaBridgeTitle, KoreaBridgeLabel(p),
-                      KoreaBridgeSpectrum(p), kKoreaBridgeAxisTitle);
-  return true;
+  return StoreDefinedSpectrum(doc, kKoreaBridgeTitle, KoreaBridgeLabel(p),
+                              KoreaBridgeSpectrum(p), messages,
+                              kKoreaBridgeAxisTitle);
 }
 
 }  // namespace zel

@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
+#include "core/codes/design_document.h"
+
 namespace zel {
 namespace {
 
@@ -31,6 +36,16 @@ TEST(Korea1992Test, PlateauEndsAtTheCodesCornerPerSoil) {
   // S2 is the single-precision 1.2: its corner lies past (1.2 / 2.1)^2.
   p.soil = 1;
   EXPECT_NEAR(Korea1992Spectrum(p)[6].period, 0.32653063819521994, 1e-15);
+
+  // Like every code: a parameter too large for a readable title, and 0 / 0,
+  // are refused; a zero R alone gives an infinite curve that is kept.
+  CZELwDoc doc;
+  MessageLog log;
+  EXPECT_FALSE(GenerateKorea1992(doc, {.epa = 1e16, .grid = {}}, log));
+  EXPECT_FALSE(GenerateKorea1992(doc, {.epa = 0.0, .r = 0.0, .grid = {}}, log));
+  EXPECT_EQ(log.texts(), (std::vector<std::string>{"The value EPA is too large",
+                                                   kUndefinedSpectrumMessage}));
+  EXPECT_TRUE(GenerateKorea1992(doc, {.r = 0.0, .grid = {}}, log));
 }
 
 TEST(Korea2000Test, SoftSoilPlateauAndExactS2) {
