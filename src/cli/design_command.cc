@@ -1,5 +1,6 @@
 #include "cli/design_command.h"
 
+#include <algorithm>
 #include <cctype>
 #include <iostream>
 #include <map>
@@ -192,8 +193,14 @@ const char* TypeName(const ParamDescriptor& param) {
 }
 
 void PrintCodeList() {
+  // The titles in one column after the longest name.
+  int width = 0;
   for (const CodeEntry& code : DesignCodes()) {
-    std::cout << CFormat("%-10s %s\n", code.id.c_str(), code.title.c_str());
+    width = std::max(width, static_cast<int>(code.id.size()));
+  }
+  for (const CodeEntry& code : DesignCodes()) {
+    std::cout << CFormat("%-*s %s\n", width, code.id.c_str(),
+                         code.title.c_str());
   }
 }
 

@@ -13,11 +13,18 @@
 #include "app/dialogs/cdlg_ch_brg89.h"
 #include "app/dialogs/cdlg_ch_gbj111_87.h"
 #include "app/dialogs/cdlg_chsh2003.h"
+#include "app/dialogs/cdlg_euro1996.h"
 #include "app/dialogs/cdlg_ibc2000.h"
+#include "app/dialogs/cdlg_jpn2000.h"
+#include "app/dialogs/cdlg_nbc1995.h"
 #include "app/dialogs/cdlg_ntc2018.h"
 #include "app/dialogs/dlg_atc.h"
+#include "app/dialogs/dlg_euro1996_elastic.h"
 #include "app/dialogs/dlg_kbc2005.h"
 #include "app/dialogs/dlg_kds2019.h"
+#include "app/dialogs/dlg_ks.h"
+#include "app/dialogs/dlg_ks2000.h"
+#include "app/dialogs/dlg_ks_bridge.h"
 #include "app/dialogs/dlg_ksce2019.h"
 #include "app/dialogs/dlg_newmark.h"
 #include "app/dialogs/dlg_ubc.h"
@@ -69,6 +76,14 @@ void RegisterCommands(CommandRegistry& registry) {
   registry.Register(ID_DESIGN_KBC2005, RunGenerateDialog<DLG_KBC2005>);
   registry.Register(ID_DESIGN_NTC2018, RunGenerateDialog<CDLG_NTC2018>);
   registry.Register(ID_DESIGN_CHSH2003, RunGenerateDialog<CDLG_CHSH2003>);
+  registry.Register(ID_DESIGN_NBC1995, RunGenerateDialog<CDLG_NBC1995>);
+  registry.Register(ID_DESIGN_EURO1996, RunGenerateDialog<CDLG_EURO1996>);
+  registry.Register(ID_DESIGN_EURO1996_ELASTIC,
+                    RunGenerateDialog<DLG_EURO1996_ELASTIC>);
+  registry.Register(ID_DESIGN_JPN2000, RunGenerateDialog<CDLG_JPN2000>);
+  registry.Register(ID_DESIGN_KS2000, RunGenerateDialog<DLG_KS2000>);
+  registry.Register(ID_DESIGN_KS, RunGenerateDialog<DLG_KS>);
+  registry.Register(ID_DESIGN_KS_BRIDGE, RunGenerateDialog<DLG_KS_BRIDGE>);
 }
 
 }  // namespace zel::app

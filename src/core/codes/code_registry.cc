@@ -26,10 +26,13 @@ bool SameIgnoringCase(std::string_view a, std::string_view b) {
 const std::vector<CodeEntry>& DesignCodes() {
   // A new code adds its entry function here.
   static const std::vector<CodeEntry> codes = {
-      Atc306Entry(),      Ubc88Entry(),   Ubc97Entry(),   Ibc2000Entry(),
-      Gb50011Entry(),     Jtj004Entry(),  Gbj111Entry(),  Kds2019Entry(),
-      Kds2018Entry(),     Kbc2005Entry(), Ntc2018Entry(), Shanghai2003Entry(),
-      NewmarkHallEntry(),
+      Atc306Entry(),       Ubc88Entry(),       Ubc97Entry(),
+      Ibc2000Entry(),      Nbc1995Entry(),     Ec8DesignEntry(),
+      Ec8ElasticEntry(),   Japan2000Entry(),   Gb50011Entry(),
+      Shanghai2003Entry(), Jtj004Entry(),      Gbj111Entry(),
+      Kds2019Entry(),      Kbc2005Entry(),     Korea2000Entry(),
+      Korea1992Entry(),    KoreaBridgeEntry(), Kds2018Entry(),
+      Ntc2018Entry(),      NewmarkHallEntry(),
   };
   return codes;
 }

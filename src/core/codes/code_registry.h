@@ -129,6 +129,13 @@ CodeEntry Kds2018Entry();
 CodeEntry Kbc2005Entry();
 CodeEntry Ntc2018Entry();
 CodeEntry Shanghai2003Entry();
+CodeEntry Nbc1995Entry();
+CodeEntry Ec8DesignEntry();
+CodeEntry Ec8ElasticEntry();
+CodeEntry Japan2000Entry();
+CodeEntry Korea2000Entry();
+CodeEntry Korea1992Entry();
+CodeEntry KoreaBridgeEntry();
 
 }  // namespace zel
 

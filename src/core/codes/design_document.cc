@@ -36,11 +36,20 @@ void CopyGridToDocument(const PeriodGrid& grid, CZELwDoc& doc) {
 void StoreDesignSpectrum(CZELwDoc& doc, const std::string& title,
                          const std::string& label,
                          std::span<const SpectrumPoint> points) {
+  StoreDesignSpectrum(doc, title, label, points, {});
+}
+
+void StoreDesignSpectrum(CZELwDoc& doc, const std::string& title,
+                         const std::string& label,
+                         std::span<const SpectrumPoint> points,
+                         const std::string& y_axis_title) {
   doc.spectrum_kind = kAbsoluteAcceleration;
   for (std::size_t k = 0; k < points.size(); ++k) {
     doc.SetPoint(static_cast<int>(k), 0, points[k].period, points[k].sa, 0);
   }
-  FinishDesignDocument(doc, title, label, doc.BuildYAxisTitle());
+  FinishDesignDocument(
+      doc, title, label,
+      y_axis_title.empty() ? doc.BuildYAxisTitle() : y_axis_title);
 }
 
 void HandOverSpectrum(CZELwDoc& doc, std::span<const double> periods,
@@ -66,6 +75,13 @@ void HandOverSpectrum(CZELwDoc& doc, std::span<const SpectrumPoint> points,
     ordinates.push_back(point.sa);
   }
   HandOverSpectrum(doc, periods, ordinates, title, label);
+}
+
+bool CheckChoice(int index, std::size_t count, std::string_view label,
+                 MessageSink& messages) {
+  if (index >= 0 && static_cast<std::size_t>(index) < count) return true;
+  messages.Show("The selection in '" + std::string(label) + "' is not valid");
+  return false;
 }
 
 bool CheckFiniteParameters(std::initializer_list<NamedValue> values,
@@ -109,6 +125,16 @@ bool HandOverDefinedSpectrum(CZELwDoc& doc,
                              MessageSink& messages) {
   if (!CheckDefinedSpectrum(points, messages)) return false;
   HandOverSpectrum(doc, points, title, label);
+  return true;
+}
+
+bool StoreDefinedSpectrum(CZELwDoc& doc, const std::string& title,
+                          const std::string& label,
+                          std::span<const SpectrumPoint> points,
+                          MessageSink& messages,
+                          const std::string& y_axis_title) {
+  if (!CheckDefinedSpectrum(points, messages)) return false;
+  StoreDesignSpectrum(doc, title, label, points, y_axis_title);
   return true;
 }
 

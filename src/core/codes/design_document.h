@@ -3,10 +3,13 @@
 #ifndef ZEL_CORE_CODES_DESIGN_DOCUMENT_H_
 #define ZEL_CORE_CODES_DESIGN_DOCUMENT_H_
 
+#include <array>
+#include <cstddef>
 #include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "core/codes/period_grid.h"
 #include "core/document/curve_document.h"
@@ -27,6 +30,12 @@ void CopyGridToDocument(const PeriodGrid& grid, CZELwDoc& doc);
 void StoreDesignSpectrum(CZELwDoc& doc, const std::string& title,
                          const std::string& label,
                          std::span<const SpectrumPoint> points);
+// The same with the code's own Y-axis title (Korea(Bridge): "Csm/R") set
+// directly instead of the kind's.
+void StoreDesignSpectrum(CZELwDoc& doc, const std::string& title,
+                         const std::string& label,
+                         std::span<const SpectrumPoint> points,
+                         const std::string& y_axis_title);
 
 // The array hand-off of the codes computed in their dialogs: every pair is
 // stored with the last-point mark, and the Y axis is titled "Sa (g)"
@@ -42,6 +51,23 @@ struct NamedValue {
   std::string_view name;
   double value;
 };
+
+// Refuses a choice index outside 0..count-1 (only a caller other than the
+// dialog can give one): "The selection in '<label>' is not valid".
+bool CheckChoice(int index, std::size_t count, std::string_view label,
+                 MessageSink& messages);
+
+// Whether `index` selects an entry of a code's choice table, and the entry
+// (`fallback` outside the table).
+template <class T, std::size_t N>
+bool IsChoiceIndex(const std::array<T, N>&, int index) {
+  return index >= 0 && static_cast<std::size_t>(index) < N;
+}
+template <class T, std::size_t N>
+T ChoiceValue(const std::array<T, N>& table, int index,
+              std::type_identity_t<T> fallback = {}) {
+  return IsChoiceIndex(table, index) ? table[index] : fallback;
+}
 
 // Refuses a parameter that is NaN or infinite: "The value %s must be a
 // finite number". Returns false after the first such message.
@@ -68,6 +94,13 @@ bool HandOverDefinedSpectrum(CZELwDoc& doc,
                              std::span<const SpectrumPoint> points,
                              const std::string& title, const std::string& label,
                              MessageSink& messages);
+// CheckDefinedSpectrum, then the classic hand-over (with the code's own
+// Y-axis title when one is given); false after the message.
+bool StoreDefinedSpectrum(CZELwDoc& doc, const std::string& title,
+                          const std::string& label,
+                          std::span<const SpectrumPoint> points,
+                          MessageSink& messages,
+                          const std::string& y_axis_title = {});
 
 }  // namespace zel
 

@@ -10,14 +10,10 @@ namespace zel {
 
 namespace {
 
-bool IsSoilIndex(int soil) {
-  return soil >= 0 && soil < static_cast<int>(kSoilFactors.size());
-}
+bool IsSoilIndex(int soil) { return IsChoiceIndex(kSoilFactors, soil); }
 
 bool CheckSoil(int soil, MessageSink& messages) {
-  if (IsSoilIndex(soil)) return true;
-  messages.Show("The selection in 'Soil Profile Type' is not valid");
-  return false;
+  return CheckChoice(soil, kSoilFactors.size(), "Soil Profile Type", messages);
 }
 
 double MoveAwayFromZero(double t) { return t <= 1e-6 ? kSmallestPeriod : t; }
@@ -114,13 +110,13 @@ std::vector<SpectrumPoint> Ubc97Spectrum(const Ubc97Params& p) {
 }
 
 std::string Atc306Label(const Atc306Params& p) {
-  const double s = IsSoilIndex(p.soil) ? kSoilFactors[p.soil] : 0.0;
+  const double s = ChoiceValue(kSoilFactors, p.soil);
   return CFormat("Soil = %3.1f  Aa = %4.2f  Av = %4.2f  RMF = %4.2f", s, p.aa,
                  p.av, p.r);
 }
 
 std::string Ubc88Label(const Ubc88Params& p) {
-  const double s = IsSoilIndex(p.soil) ? kSoilFactors[p.soil] : 0.0;
+  const double s = ChoiceValue(kSoilFactors, p.soil);
   return CFormat("Soil = %3.1f  Z = %4.3f", s, p.z);
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 #include <vector>
 
 namespace zel {
@@ -27,6 +28,17 @@ TEST(DesignDocumentTest, ClassicHandOverSavesOnePointShortOfTheChart) {
   // Three points on the chart, stored without the last mark: two counted.
   EXPECT_EQ(doc.StoredPoints(0), 3u);
   EXPECT_EQ(doc.point_count[0], 2);
+}
+
+TEST(DesignDocumentTest, ClassicHandOverWithTheCodesOwnYAxisTitle) {
+  const std::vector<SpectrumPoint> points = {{0.0, 0.275}, {1.0, 0.1}};
+  CZELwDoc doc;
+  StoreDesignSpectrum(doc, "Korea(Bridge) Design Spectrum", "label", points,
+                      "Csm/R");
+  EXPECT_EQ(doc.spectrum_kind, kAbsoluteAcceleration);
+  EXPECT_EQ(doc.AxisTitle(1), "Csm/R");
+  EXPECT_EQ(doc.AxisTitle(0), "Period Tn (sec)");
+  EXPECT_EQ(doc.point_count[0], 1);
 }
 
 TEST(DesignDocumentTest, ArrayHandOverCountsEveryPointAndTitlesSa) {
@@ -57,6 +69,10 @@ TEST(DesignDocumentTest, NonFiniteParametersAreNamed) {
   EXPECT_FALSE(CheckDefinedSpectrum(points, log));
   EXPECT_EQ(log.texts().back(), kUndefinedSpectrumMessage);
   EXPECT_EQ(log.texts()[1], "The value Tg is too large");
+  EXPECT_TRUE(CheckChoice(2, 3, "Soil Class (S)", log));
+  EXPECT_FALSE(CheckChoice(3, 3, "Soil Class (S)", log));
+  EXPECT_EQ(log.texts().back(),
+            "The selection in 'Soil Class (S)' is not valid");
 }
 
 }  // namespace
