@@ -450,16 +450,12 @@ TEST_F(RecordDialogsTest, TimeFrequencySwitchBothWays) {
   EXPECT_NEAR(record.x_axis_step, df, 1e-12);
   EXPECT_THAT(ContextLabel(record), ::testing::StartsWith("Maximum at "));
   EXPECT_EQ(record.store().Value(256, 0), 256 * record.x_axis_step);
-  const auto ticker = view.xAxis->ticker().dynamicCast<QCPAxisTickerFixed>();
-  ASSERT_TRUE(ticker);
-  EXPECT_EQ(ticker->tickStep(), record.x_axis_step);
-  EXPECT_EQ(view.xAxis->numberPrecision(), 3);
-  // Every tick stands on a whole multiple of the bin width.
+  // Round frequencies at the ticks (0, 5, 10 Hz), not multiples of a bin.
   view.replot();
-  for (double tick : view.xAxis->tickVector()) {
-    const double bins = tick / record.x_axis_step;
-    EXPECT_NEAR(bins, std::round(bins), 1e-6) << tick;
-  }
+  const QVector<double> ticks = view.xAxis->tickVector();
+  ASSERT_GE(ticks.size(), 3);
+  EXPECT_EQ(ticks[0], 0.0);
+  EXPECT_TRUE(ticks.contains(10.0));
 
   frame().OnCommand(ID_VIEW_TIME_FREQUENCY);
   EXPECT_EQ(record.frequency_mode, 0);
@@ -467,8 +463,6 @@ TEST_F(RecordDialogsTest, TimeFrequencySwitchBothWays) {
   EXPECT_EQ(record.AxisTitle(1), "Ground Accel.(g)");
   EXPECT_EQ(record.x_axis_step, 0.0);
   EXPECT_EQ(ContextLabel(record), "Max = 0.4100(g) at 2.46 sec");
-  EXPECT_TRUE(view.xAxis->ticker().dynamicCast<QCPAxisTickerFixed>().isNull());
-  EXPECT_EQ(view.xAxis->numberPrecision(), 6);
   EXPECT_EQ(record.StoredPoints(0), static_cast<std::size_t>(kSamples));
 
   // A response-spectrum document stays as it is; its menu entry is off.
