@@ -263,8 +263,9 @@ void ChartWidget::FitTexts() {
     }
   }
 
-  // Axis titles fit the axis they stand by, the title the chart's width.
-  const QRect plot = axisRect()->rect();
+  // Axis titles fit the axis they stand by (before the first layout, the
+  // chart's size stands in), the title the chart's width.
+  const QRect plot = axisRect()->rect().isEmpty() ? rect() : axisRect()->rect();
   const std::array<int, 2> axis_room = {plot.width(), plot.height()};
   const std::array<QCPAxis*, 2> axes = {xAxis, yAxis};
   for (int a = 0; a < 2; ++a) {

@@ -78,8 +78,9 @@ FittedText FitLines(const std::vector<std::string>& lines, double width,
                     double points, double minimum, const TextWidth& measure,
                     int max_lines) {
   FittedText fit{points, {}};
+  if (!(width > 0.0)) return {points, lines};  // no room known yet
   const double widest = Widest(lines, points, measure);
-  if (widest > width && width > 0.0) {
+  if (widest > width) {
     fit.points = std::max(minimum, points * width / widest);
     while (fit.points - kShrinkStep >= minimum &&
            Widest(lines, fit.points, measure) > width) {
