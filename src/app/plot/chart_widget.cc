@@ -303,10 +303,10 @@ bool ChartWidget::TicksOutOfDate() const {
 }
 
 bool ChartWidget::PlaceLegendAwayFromCurves() {
-  std::vector<std::vector<PixelPoint>> curves;
+  std::vector<std::vector<PixelPointF>> curves;
   for (int g = 0; g < graphCount(); ++g) {
     const QCPGraph* graph = this->graph(g);
-    std::vector<PixelPoint> points;
+    std::vector<PixelPointF> points;
     points.reserve(graph->data()->size());
     for (const QCPGraphData& d : *graph->data()) {
       points.push_back(

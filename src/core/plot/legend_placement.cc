@@ -23,13 +23,13 @@ bool Clip(double p, double q, double& t0, double& t1) {
 
 }  // namespace
 
-PixelRect LegendRect(const PixelRect& plot, double width, double height,
-                     LegendPlace place) {
+PixelRectF LegendRect(const PixelRectF& plot, double width, double height,
+                      LegendPlace place) {
   const bool left =
       place == LegendPlace::kTopLeft || place == LegendPlace::kBottomLeft;
   const bool top =
       place == LegendPlace::kTopLeft || place == LegendPlace::kTopRight;
-  PixelRect r;
+  PixelRectF r;
   r.left = left ? plot.left : plot.right - width;
   r.right = r.left + width;
   r.top = top ? plot.top : plot.bottom - height;
@@ -37,7 +37,7 @@ PixelRect LegendRect(const PixelRect& plot, double width, double height,
   return r;
 }
 
-bool SegmentTouches(PixelPoint a, PixelPoint b, const PixelRect& rect) {
+bool SegmentTouches(PixelPointF a, PixelPointF b, const PixelRectF& rect) {
   if (!std::isfinite(a.x) || !std::isfinite(a.y) || !std::isfinite(b.x) ||
       !std::isfinite(b.y)) {
     return false;
@@ -52,15 +52,15 @@ bool SegmentTouches(PixelPoint a, PixelPoint b, const PixelRect& rect) {
          Clip(dy, rect.bottom - a.y, t0, t1);
 }
 
-LegendPlace PlaceLegend(const PixelRect& plot, double width, double height,
-                        const std::vector<std::vector<PixelPoint>>& curves) {
+LegendPlace PlaceLegend(const PixelRectF& plot, double width, double height,
+                        const std::vector<std::vector<PixelPointF>>& curves) {
   if (width > plot.right - plot.left || height > plot.bottom - plot.top) {
     return LegendPlace::kOutside;
   }
   for (LegendPlace place :
        {LegendPlace::kTopRight, LegendPlace::kTopLeft,
         LegendPlace::kBottomRight, LegendPlace::kBottomLeft}) {
-    const PixelRect r = LegendRect(plot, width, height, place);
+    const PixelRectF r = LegendRect(plot, width, height, place);
     bool free = true;
     for (const auto& curve : curves) {
       for (std::size_t i = 0; free && i < curve.size(); ++i) {

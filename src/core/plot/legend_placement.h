@@ -8,13 +8,14 @@
 
 namespace zel {
 
-struct PixelPoint {
+// A point in pixels, not rounded: curves pass between whole pixels.
+struct PixelPointF {
   double x = 0.0;
   double y = 0.0;
 };
 
 // A rectangle in pixels, y growing downwards.
-struct PixelRect {
+struct PixelRectF {
   double left = 0.0;
   double top = 0.0;
   double right = 0.0;
@@ -32,17 +33,17 @@ enum class LegendPlace {
 };
 
 // The rectangle of a legend of `width` x `height` in a corner of `plot`.
-PixelRect LegendRect(const PixelRect& plot, double width, double height,
-                     LegendPlace place);
+PixelRectF LegendRect(const PixelRectF& plot, double width, double height,
+                      LegendPlace place);
 
 // True when the segment from `a` to `b` touches `rect`.
-bool SegmentTouches(PixelPoint a, PixelPoint b, const PixelRect& rect);
+bool SegmentTouches(PixelPointF a, PixelPointF b, const PixelRectF& rect);
 
 // The first corner of `plot` whose legend rectangle no curve (a polyline
 // through its points in pixels) touches; kOutside when the legend fits no
 // corner that way or is larger than the plot.
-LegendPlace PlaceLegend(const PixelRect& plot, double width, double height,
-                        const std::vector<std::vector<PixelPoint>>& curves);
+LegendPlace PlaceLegend(const PixelRectF& plot, double width, double height,
+                        const std::vector<std::vector<PixelPointF>>& curves);
 
 }  // namespace zel
 

@@ -88,10 +88,11 @@ TEST(AxisTicksTest, RoundTicksOnLinearAndLogAxes) {
 }
 
 TEST(LegendPlacementTest, LegendTakesAFreeCornerOrGoesOutside) {
-  const PixelRect plot{0, 0, 100, 100};
+  const PixelRectF plot{0, 0, 100, 100};
   // A curve rising to the top right corner, as response spectra at long
   // periods do: the top left corner is free.
-  std::vector<std::vector<PixelPoint>> curves = {{{0, 90}, {60, 50}, {100, 5}}};
+  std::vector<std::vector<PixelPointF>> curves = {
+      {{0, 90}, {60, 50}, {100, 5}}};
   EXPECT_EQ(PlaceLegend(plot, 30, 20, curves), LegendPlace::kTopLeft);
   EXPECT_EQ(LegendRect(plot, 30, 20, LegendPlace::kBottomLeft).top, 80.0);
   // A segment crossing the rectangle with no point inside touches it.
