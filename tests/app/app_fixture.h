@@ -37,6 +37,10 @@ class AppFixture : public ::testing::Test {
       save_filters_ << filter + QStringLiteral(" default ") + suffix;
       return next_save_;
     };
+    ui.ask_yes_no = [this](QWidget*, const QString& question) {
+      questions_ << question;
+      return answer_yes_;
+    };
     ui.run_dialog = [this](QDialog& dialog) {
       dialog_titles_ << dialog.windowTitle();
       return answer_ ? answer_(dialog) : int(QDialog::Rejected);
@@ -64,6 +68,8 @@ class AppFixture : public ::testing::Test {
   QStringList open_filters_;
   QStringList save_filters_;
   QStringList dialog_titles_;
+  QStringList questions_;
+  bool answer_yes_ = false;
   // Fills in and answers a modal dialog; Cancel when unset.
   std::function<int(QDialog&)> answer_;
 };

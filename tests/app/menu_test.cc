@@ -1,233 +1,145 @@
-// The menus against the command table, and the menu-state rules.
+// The menus against the command table, their mnemonics and keys, the Window
+// menu's list of windows, and the menu states of the active document.
 #include <QAction>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTest>
+#include <map>
 
 #include "app/shell/command_table.h"
 #include "app_fixture.h"
+#include "core/document/menu_state.h"
 
 namespace zel::app::testing {
 namespace {
 
-// Every visible menu item, in menu order, as "path|id|prompt|shortcut".
-QStringList MenuRows(QMenuBar* bar) {
-  QStringList rows;
-  std::function<void(QMenu*, const QString&)> walk = [&](QMenu* menu,
-                                                         const QString& path) {
-    for (QAction* a : menu->actions()) {
-      if (!a->isVisible() || a->isSeparator()) continue;
-      const QString item =
-          path + QLatin1Char('/') + QString(a->text()).replace("&&", "&");
-      if (a->menu()) {
-        walk(a->menu(), item);
+// Every visible item by its path as shown ("File/Open"), menus included;
+// checks that each item of a menu has a mnemonic of its own.
+std::map<QString, QAction*> Items(const QList<QAction*>& actions,
+                                  const QString& path = {}) {
+  std::map<QString, QAction*> items;
+  QList<QKeySequence> used;
+  for (QAction* a : actions) {
+    if (!a->isVisible() || a->isSeparator()) continue;
+    const QKeySequence key = QKeySequence::mnemonic(a->text());
+    const QString item = path + a->iconText();  // "&&" shows as "&"
+    EXPECT_TRUE(!key.isEmpty() && !used.contains(key)) << item.toStdString();
+    used << key;
+    items[item] = a;
+    if (a->menu()) items.merge(Items(a->menu()->actions(), item + '/'));
+  }
+  return items;
+}
+
+TEST_F(AppFixture, MenusFollowTheCommandTableWithMnemonics) {
+  for (const bool with_doc : {false, true}) {
+    if (with_doc) app_->NewDocument(kNewDocumentDesignSpectrum);
+    frame().UpdateCommandUI();
+    std::map<QString, QAction*> items = Items(frame().menuBar()->actions());
+    EXPECT_EQ(items.count("Option") + items.count("Window"), with_doc ? 2 : 0);
+    for (const CommandEntry& e : CommandTable()) {
+      const QString path = QString("%1/%2%3").arg(
+          e.menu, e.submenu ? QString(e.submenu) + '/' : "", e.text);
+      const auto it = items.find(path);
+      if (e.id == 0 || (e.scope != MenuScope::kAlways &&
+                        (e.scope == MenuScope::kWithDocument) != with_doc)) {
+        EXPECT_TRUE(e.id == 0 || it == items.end()) << path.toStdString();
         continue;
       }
-      const int id = a->data().toInt();
-      if (id >= ID_FILE_MRU_FILE1 && id < ID_FILE_MRU_FILE1 + 4) continue;
-      rows << QStringLiteral("%1|%2|%3|%4")
-                  .arg(item)
-                  .arg(id)
-                  .arg(a->statusTip(), a->shortcut().toString());
+      ASSERT_NE(it, items.end()) << path.toStdString();
+      EXPECT_EQ(it->second->data().toInt(), e.id);
+      EXPECT_EQ(it->second->statusTip(), e.prompt);
+      EXPECT_EQ(it->second->shortcut(), QKeySequence(e.shortcut));
+      if (QLatin1String(e.menu) == QLatin1String("Generate")) {
+        // Enabled once its dialog is registered.
+        EXPECT_EQ(it->second->isEnabled(), frame().commands().Has(e.id));
+      }
+      items.erase(it);
     }
-  };
-  for (QAction* top : bar->actions()) {
-    if (top->isVisible()) walk(top->menu(), top->text());
+    for (const auto& [path, action] : items) {  // menus and the window list
+      EXPECT_TRUE(action->menu() ||
+                  action->data().toInt() >= ID_WINDOW_FIRST_CHILD)
+          << path.toStdString();
+    }
   }
-  return rows;
+  // Kept as it is: both grid prompts name the y axis.
+  EXPECT_STREQ(FindCommand(ID_OPTION_XGRID)->prompt, "y-axis grid on/off");
 }
 
-QStringList TopMenus(QMenuBar* bar) {
-  QStringList titles;
-  for (QAction* top : bar->actions()) {
-    if (top->isVisible()) titles << top->text();
-  }
-  return titles;
-}
-
-TEST_F(AppFixture, MenuTreeAndPromptsFollowTheCommandTable) {
-  const QStringList generate = {
-      "Generate/Earthquake Record|32775|Generate Earthquake Record from real "
-      "earthquake database|",
-      "Generate/Earthquake Response Spectra|32776|Generate Earthquake "
-      "Response Spectra|",
-      "Generate/Design Response Spectra/IBC2000(ASCE7-98)|32811|"
-      "IBC2000(ASCE7-98) Design Response Spectrum|",
-      "Generate/Design Response Spectra/UBC(1997)|32790|UBC(1997) Design "
-      "Response Spectrum|",
-      "Generate/Design Response Spectra/UBC 88-94|32778|UBC 88-94 Design "
-      "Response Spectrum|",
-      "Generate/Design Response Spectra/ATC 3-06|32777|ATC 3-06 Design "
-      "Response Spectrum|",
-      "Generate/Design Response Spectra/NBC(1995)|32817|NBC(1995) Design "
-      "Response Spectrum|",
-      "Generate/Design Response Spectra/Eurocode-8(1996) Design|32812|"
-      "EUROCODE-8(1996) Design Response Spectrum|",
-      "Generate/Design Response Spectra/Eurocode-8(1996) Elastic|32818|"
-      "EUROCODE-8(1996) Elastic Response Spectrum|",
-      "Generate/Design Response Spectra/Japan(Arch.2000)|32814|"
-      "Japan(Arch.2000) Design Response Spectrum|",
-      "Generate/Design Response Spectra/China(GB50011-2001)|32813|"
-      "China(GB50011-2001) Design Response Spectrum|",
-      "Generate/Design Response Spectra/China Shanghai(DGJ08-9-2003)|32820|"
-      "China Shanghai(DGJ08-9-2003) Design Response Spectrum|",
-      "Generate/Design Response Spectra/China(JTJ004-89)|32815|"
-      "China(JTJ004-89) Design Response Spectrum|",
-      "Generate/Design Response Spectra/China(GBJ111-87)|32816|"
-      "China(GBJ111-87) Design Response Spectrum|",
-      "Generate/Design Response Spectra/KDS(41-17-00:2019)|32822||",
-      "Generate/Design Response Spectra/KBC(2005)|32819|KBC(2005) Design "
-      "Response Spectrum|",
-      "Generate/Design Response Spectra/Korea(Arch.2000)|32809|"
-      "Korea(Arch,2000) Design Response Spectrum|",
-      "Generate/Design Response Spectra/Korea(Arch.1992)|32779|"
-      "Korea(Arch,1992) Design Response Spectrum|",
-      "Generate/Design Response Spectra/Korea(Bridge)|32807|Korea(Bridge) "
-      "Design Response Spectrum|",
-      "Generate/Design Response Spectra/KDS(17-10-00:2018)|32821||",
-      "Generate/Design Response Spectra/NTC2018|32824||",
-      "Generate/Design Response Spectra/Newmark & Hall|32780|Newmark & Hall "
-      "Design Response Spectrum|",
-  };
-  const QStringList file_with_doc = {
-      "File/Open|57601|Open an existing document|Ctrl+O",
-      "File/Close|57602|Close the active document|",
-      "File/Save|57603|Save the active document|Ctrl+S",
-      "File/Print|57607|Print the active document|",
-      "File/Page Setup|57605|Change the printing options|Ctrl+P",
-      "File/Print Setup|57606|Change the printer and printing options|Ctrl+R",
-      "File/Exit|57665|Quit the application|",
-  };
-  const QStringList option = {
-      "Option/X Scale Log|32786|make x-axis scale logarithmic|",
-      "Option/Y Scale Log|32787|make y-axis scale logarithmic|",
-      "Option/X Grid|32788|y-axis grid on/off|",
-      "Option/Y Grid|32789|y-axis grid on/off|",
-      "Option/Diagonal Grid|32798||",
-      "Option/Line Thickness|32784|Changes Line property|",
-      "Option/Unit|32797|Unit conversion|",
-      "Option/Edit Graph Title|32802|Edits title of graph|",
-  };
-  const QStringList view_always = {
-      "View/Toolbar|59392|Show or hide the toolbar|",
-      "View/Status Bar|59393|Show or hide the status bar|",
-  };
-  const QStringList view_doc = {
-      "View/Zoom Out All|53500|Show the whole chart again|",
-      "View/Time<->Frequency|32800|Change the domain between time-history "
-      "and frequency|",
-  };
-  const QStringList window = {
-      "Window/Cascade|57650|Arrange windows so they overlap|",
-      "Window/Tile|57651|Arrange windows as non-overlapping tiles|",
-  };
-  const QString about =
-      "Help/About ZEL|57664|Display program information, version number and "
-      "copyright|";
-
+TEST_F(AppFixture, KeyboardReachesTheMenus) {
   QMenuBar* bar = frame().menuBar();
-  frame().UpdateCommandUI();
-  // No document: no Option or Window menu, no document commands.
-  EXPECT_EQ(TopMenus(bar), QStringList({"File", "Generate", "View", "Help"}));
-  EXPECT_EQ(MenuRows(bar), QStringList() << file_with_doc[0] << file_with_doc[5]
-                                         << file_with_doc[6] << generate
-                                         << view_always << about);
+  frame().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&frame()));
+  QTest::keyClick(&frame(), Qt::Key_G, Qt::AltModifier);
+  ASSERT_NE(bar->activeAction(), nullptr);
+  EXPECT_EQ(bar->activeAction()->iconText(), "Generate");
+  bar->activeAction()->menu()->close();
+  bar->setActiveAction(nullptr);
+  QTest::keyClick(&frame(), Qt::Key_F10);
+  ASSERT_NE(bar->activeAction(), nullptr);
+  EXPECT_EQ(bar->activeAction()->iconText(), "File");
+}
 
-  app_->NewDocument(kNewDocumentDesignSpectrum);
-  EXPECT_EQ(TopMenus(bar), QStringList({"File", "Generate", "Option", "View",
-                                        "Window", "Help"}));
-  EXPECT_EQ(MenuRows(bar), QStringList()
-                               << file_with_doc << generate << option
-                               << view_always << view_doc << window << about);
+TEST_F(AppFixture, WindowMenuListsAndActivatesTheWindows) {
+  for (int i = 0; i < 3; ++i) app_->NewDocument(kNewDocumentDesignSpectrum);
+  QList<QAction*> list;
+  auto texts = [&] {
+    frame().UpdateCommandUI();
+    list = Items(frame().menuBar()->actions()).at("Window")->menu()->actions();
+    list.removeIf(
+        [](QAction* a) { return a->data().toInt() < ID_WINDOW_FIRST_CHILD; });
+    QStringList rows;
+    for (QAction* a : list) rows << a->text() + (a->isChecked() ? "*" : "");
+    return rows;
+  };
+  EXPECT_EQ(texts(), QStringList({"&1 ZEL1", "&2 ZEL2", "&3 ZEL3*"}));
+  list[0]->trigger();
+  EXPECT_EQ(frame().ActiveDocument()->window_title, "ZEL1");
+  EXPECT_EQ(texts(), QStringList({"&1 ZEL1*", "&2 ZEL2", "&3 ZEL3"}));
+  child()->close();
+  EXPECT_EQ(texts().size(), 2);
 }
 
 TEST_F(AppFixture, MenuStatesFollowTheActiveDocument) {
-  auto action = [this](int id) {
-    frame().UpdateCommandUI();
-    return frame().CommandAction(id);
-  };
-
-  // The tool bar keeps its buttons; Save needs a document, printing is not
-  // there yet.
-  frame().UpdateCommandUI();
-  EXPECT_TRUE(frame().ToolButton(ID_FILE_OPEN)->isEnabled());
+  frame().UpdateCommandUI();  // no document: the tool bar keeps its buttons
   EXPECT_FALSE(frame().ToolButton(ID_FILE_SAVE)->isEnabled());
   EXPECT_TRUE(frame().ToolButton(ID_FILE_SAVE)->isVisible());
-
-  // A tripartite chart: both log toggles disabled and checked, the diagonal
-  // grid offered.
   CZELwDoc* tri = app_->NewDocument(1);
-  EXPECT_TRUE(frame().ToolButton(ID_FILE_SAVE)->isEnabled());
-  EXPECT_FALSE(frame().ToolButton(ID_FILE_PRINT)->isEnabled());
-  tri->tripartite = 1;
-  tri->log_x = tri->log_y = 1;
-  tri->length_unit = 1;
-  EXPECT_FALSE(action(ID_OPTION_XLOG)->isEnabled());
-  EXPECT_FALSE(action(ID_OPTION_YLOG)->isEnabled());
-  EXPECT_TRUE(action(ID_OPTION_XLOG)->isChecked());
-  EXPECT_TRUE(action(ID_OPTION_YLOG)->isChecked());
-  EXPECT_TRUE(action(ID_OPTION_DIAGONAL_GRID)->isEnabled());
-  EXPECT_TRUE(action(ID_OPTION_DIAGONAL_GRID)->isChecked());
-  EXPECT_TRUE(action(ID_OPTION_UNIT)->isEnabled());
-  EXPECT_FALSE(action(ID_VIEW_TIME_FREQUENCY)->isEnabled());
-  frame().OnCommand(ID_OPTION_DIAGONAL_GRID);
-  EXPECT_FALSE(action(ID_OPTION_DIAGONAL_GRID)->isChecked());
-
-  // A record in g: log toggles work, no diagonal grid, no unit conversion,
-  // Time<->Frequency.
-  CZELwDoc* record = app_->NewDocument(0);
-  record->record_flag = 1;
-  EXPECT_TRUE(action(ID_OPTION_XLOG)->isEnabled());
-  EXPECT_FALSE(action(ID_OPTION_XLOG)->isChecked());
-  EXPECT_FALSE(action(ID_OPTION_DIAGONAL_GRID)->isEnabled());
-  EXPECT_FALSE(action(ID_OPTION_UNIT)->isEnabled());
-  EXPECT_TRUE(action(ID_VIEW_TIME_FREQUENCY)->isEnabled());
-  int switched = 0;
-  frame().commands().Register(ID_VIEW_TIME_FREQUENCY,
-                              [&](CMainFrame&) { ++switched; });
-  action(ID_VIEW_TIME_FREQUENCY)->trigger();  // does nothing when disabled
-  EXPECT_EQ(switched, 1);
-  frame().OnCommand(ID_OPTION_XGRID);
-  EXPECT_FALSE(action(ID_OPTION_XGRID)->isChecked());
-  EXPECT_TRUE(action(ID_OPTION_YGRID)->isChecked());
-  frame().OnCommand(ID_OPTION_YLOG);
-  EXPECT_TRUE(action(ID_OPTION_YLOG)->isChecked());
-  EXPECT_TRUE(record->chart.log_range);
-
-  // A file read with a length unit: Unit enabled.
-  CZELwDoc* length = app_->NewDocument(kNewDocumentFromFile);
-  length->length_unit = 1;
-  length->spectrum_kind = kLengthUnitFile;
-  EXPECT_TRUE(action(ID_OPTION_UNIT)->isEnabled());
-  EXPECT_FALSE(action(ID_VIEW_TIME_FREQUENCY)->isEnabled());
-}
-
-TEST_F(AppFixture, GenerateEntriesWaitForTheirDialogs) {
-  frame().UpdateCommandUI();
-  for (const CommandEntry& e : CommandTable()) {
-    if (e.id != 0 && QLatin1String(e.menu) == QLatin1String("Generate")) {
-      EXPECT_EQ(frame().CommandAction(e.id)->isEnabled(),
-                frame().commands().Has(e.id))
-          << e.text;
+  tri->tripartite = tri->log_x = tri->log_y = tri->length_unit = 1;
+  app_->NewDocument(0)->record_flag = 1;
+  frame().commands().Register(ID_VIEW_TIME_FREQUENCY, [](CMainFrame&) {});
+  for (QMdiSubWindow* w : frame().mdi_area()->subWindowList()) {
+    frame().mdi_area()->setActiveSubWindow(w);
+    frame().UpdateCommandUI();
+    const DocumentMenuState s = MenuStateOf(*frame().ActiveDocument());
+    for (const auto& [id, state] :
+         {std::pair{ID_OPTION_XLOG, s.x_scale_log},
+          {ID_OPTION_YLOG, s.y_scale_log},
+          {ID_OPTION_XGRID, s.x_grid},
+          {ID_OPTION_YGRID, s.y_grid},
+          {ID_OPTION_DIAGONAL_GRID, s.diagonal_grid},
+          {ID_OPTION_UNIT, s.unit},
+          {ID_VIEW_TIME_FREQUENCY, s.time_frequency}}) {
+      EXPECT_EQ(frame().CommandAction(id)->isEnabled(), state.enabled) << id;
+      if (frame().CommandAction(id)->isCheckable()) {
+        EXPECT_EQ(frame().CommandAction(id)->isChecked(), state.checked) << id;
+      }
     }
   }
-  // A registered dialog enables its entry and makes its document through
-  // the application with its new-document mode.
-  CZELwDoc* made = nullptr;
-  frame().commands().Register(ID_DESIGN_UBC97, [&](CMainFrame& f) {
-    made = f.app().NewDocument(kNewDocumentDesignSpectrum);
-    made->title = "UBC(1997) Design Spectrum";
-    made->SetTitle(made->title);
-    made->UpdateAllViews();
+  EXPECT_TRUE(frame().ToolButton(ID_FILE_SAVE)->isEnabled());
+  EXPECT_FALSE(frame().ToolButton(ID_FILE_PRINT)->isEnabled());
+  // A Generate dialog registered later enables its entry and makes its
+  // document through the application with its new-document mode.
+  frame().commands().Register(ID_DESIGN_NBC1995, [](CMainFrame& f) {
+    CZELwDoc* doc = f.app().NewDocument(kNewDocumentDesignSpectrum);
+    doc->SetTitle("NBC(1995)");
+    doc->UpdateAllViews();
   });
   frame().UpdateCommandUI();
-  QAction* ubc = frame().CommandAction(ID_DESIGN_UBC97);
-  ASSERT_TRUE(ubc->isEnabled());
-  ubc->trigger();
-  ASSERT_NE(made, nullptr);
-  EXPECT_EQ(frame().ActiveDocument(), made);
+  frame().CommandAction(ID_DESIGN_NBC1995)->trigger();
   EXPECT_EQ(app_->new_document_mode(), kNewDocumentDesignSpectrum);
-  EXPECT_EQ(child()->windowTitle(), "UBC(1997) Design Spectrum");
-  EXPECT_EQ(frame().windowTitle(), "ZEL - UBC(1997) Design Spectrum");
+  EXPECT_EQ(frame().windowTitle(), "ZEL - NBC(1995)");
 }
 
 }  // namespace

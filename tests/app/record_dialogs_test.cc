@@ -289,25 +289,19 @@ TEST_F(RecordDialogsTest, RecordDocumentAndTimeFrequencySwitch) {
   EXPECT_EQ(doc.store().Value(999, 1), 2.0 * values_[999]);
   EXPECT_EQ(view.xAxis->label(), "Time (sec)");
 
-  // 1000 samples: the first 512 are transformed; the ticks stand on whole
-  // multiples of the bin width.
+  // 1000 samples: the first 512 are transformed; round frequencies at the
+  // ticks (0, 5, 10 Hz), not multiples of a bin.
   frame().OnCommand(ID_VIEW_TIME_FREQUENCY);
   EXPECT_EQ(child()->windowTitle(), "Frequency Spectrum");
   EXPECT_EQ(view.xAxis->label(), "Frequency (Hz)");
   EXPECT_NEAR(doc.x_axis_step, 1.0 / 0.02 / 512, 1e-12);
-  const auto ticker = view.xAxis->ticker().dynamicCast<QCPAxisTickerFixed>();
-  ASSERT_TRUE(ticker);
-  EXPECT_EQ(ticker->tickStep(), doc.x_axis_step);
-  EXPECT_EQ(view.xAxis->numberPrecision(), 3);
   view.replot();
-  for (double tick : view.xAxis->tickVector()) {
-    const double bins = tick / doc.x_axis_step;
-    EXPECT_NEAR(bins, std::round(bins), 1e-6) << tick;
-  }
+  const QVector<double> ticks = view.xAxis->tickVector();
+  ASSERT_GE(ticks.size(), 3);
+  EXPECT_EQ(ticks[0], 0.0);
+  EXPECT_TRUE(ticks.contains(10.0));
   frame().OnCommand(ID_VIEW_TIME_FREQUENCY);
   EXPECT_EQ(ContextLabel(doc), "Max = 0.8200(g) at 2.46 sec");
-  EXPECT_TRUE(view.xAxis->ticker().dynamicCast<QCPAxisTickerFixed>().isNull());
-  EXPECT_EQ(view.xAxis->numberPrecision(), 6);
 
   // A response-spectrum document stays as it is.
   AnswerWith<EarthDlg>([](EarthDlg& d) { d.step_edit()->setText("10"); });

@@ -1,8 +1,13 @@
 #include "app/plot/chart_widget.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 #include <vector>
+
+#include "core/plot/legend_placement.h"
+#include "core/plot/text_fit.h"
 
 namespace zel::app {
 namespace {
@@ -11,16 +16,50 @@ QColor ToQColor(const Rgb& c) { return QColor(c.red, c.green, c.blue); }
 
 QString Text(const std::string& s) { return QString::fromStdString(s); }
 
+QFont Sized(QFont font, double points) {
+  font.setPointSizeF(points);
+  return font;
+}
+
+TextWidth WidthIn(const QFont& font) {
+  return [font](const std::string& text, double points) {
+    return QFontMetricsF(Sized(font, points))
+        .horizontalAdvance(QString::fromStdString(text));
+  };
+}
+
+// Room kept free beside a title, in pixels.
+constexpr int kTitlePadding = 8;
+// Titles shrink this far at most before they wrap: wrapped text reads better
+// than tiny text.
+constexpr double kLeastTitleShrink = 0.85;
+// Share of the chart's height the title may take, and lines of an axis title.
+constexpr double kMostTitleHeight = 0.25;
+constexpr int kMostAxisTitleLines = 2;
+
+Qt::Alignment CornerAlignment(LegendPlace place) {
+  switch (place) {
+    case LegendPlace::kTopLeft:
+      return Qt::AlignTop | Qt::AlignLeft;
+    case LegendPlace::kBottomRight:
+      return Qt::AlignBottom | Qt::AlignRight;
+    case LegendPlace::kBottomLeft:
+      return Qt::AlignBottom | Qt::AlignLeft;
+    default:
+      return Qt::AlignTop | Qt::AlignRight;
+  }
+}
+
 }  // namespace
 
 ChartWidget::ChartWidget(const CZELwDoc& doc, QWidget* parent)
-    : QCustomPlot(parent), doc_(doc) {
+    : QCustomPlot(parent), doc_(doc), base_font_(font()) {
+  if (base_font_.pointSizeF() <= 0.0) base_font_.setPointSizeF(9.0);
   // Tick labels read the same on every desktop: 0.5, never 0,5.
   setLocale(QLocale::c());
   setNoAntialiasingOnDrag(true);
   plotLayout()->insertRow(0);
-  QFont title_font = font();
-  title_font.setPointSize(title_font.pointSize() + 2);
+  QFont title_font = base_font_;
   title_font.setBold(true);
   title_ = new QCPTextElement(this, QString(), title_font);
   plotLayout()->addElement(0, 0, title_);
@@ -44,36 +83,21 @@ void ChartWidget::SetUpAxes() {
     axis->setNumberFormat(QStringLiteral("g"));
     axis->setNumberPrecision(6);
   }
+  auto x = QSharedPointer<ChartAxisTicker>::create(xAxis);
+  auto y = QSharedPointer<ChartAxisTicker>::create(yAxis);
+  x_ticker_ = x.data();
+  y_ticker_ = y.data();
+  xAxis->setTicker(x);
+  yAxis->setTicker(y);
 }
 
-void ChartWidget::SetScale(QCPAxis* axis, bool log, double step) {
-  const auto scale = log ? QCPAxis::stLogarithmic : QCPAxis::stLinear;
-  const auto fixed = axis->ticker().dynamicCast<QCPAxisTickerFixed>();
-  if (!log && step > 0.0) {
-    // A document's axis step (a frequency spectrum's bin width) puts the
-    // ticks on whole multiples of it.
-    if (axis->scaleType() == scale && fixed && fixed->tickStep() == step) {
-      return;
-    }
-    axis->setScaleType(scale);
-    // Multiples of a bin width are seldom round: three digits suffice.
-    axis->setNumberPrecision(3);
-    auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
-    ticker->setTickStep(step);
-    ticker->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
-    axis->setTicker(ticker);
-    return;
-  }
-  if (axis->scaleType() == scale && axis->ticker() && !fixed) return;
-  axis->setNumberPrecision(6);
-  axis->setScaleType(scale);
-  if (log) {
-    auto ticker = QSharedPointer<QCPAxisTickerLog>::create();
-    ticker->setLogBase(10.0);
-    axis->setTicker(ticker);
-  } else {
-    axis->setTicker(QSharedPointer<QCPAxisTicker>::create());
-  }
+void ChartWidget::SetScale(QCPAxis* axis, ChartAxisTicker* ticker, bool log,
+                           double step) {
+  axis->setScaleType(log ? QCPAxis::stLogarithmic : QCPAxis::stLinear);
+  ticker->SetLog(log);
+  // A frequency spectrum's ticks stay round numbers, never finer than its
+  // bin width.
+  ticker->SetMinimumStep(log ? 0.0 : step);
 }
 
 MyGraphDisplay* ChartWidget::FindDisplay(int id) {
@@ -81,13 +105,11 @@ MyGraphDisplay* ChartWidget::FindDisplay(int id) {
 }
 
 void ChartWidget::Rebuild() {
-  QStringList lines;
-  for (const std::string& line : doc_.chart.title_lines) lines << Text(line);
-  title_->setText(lines.join(QLatin1Char('\n')));
-  xAxis->setLabel(Text(doc_.chart.axis_titles[0]));
-  yAxis->setLabel(Text(doc_.chart.axis_titles[1]));
-  SetScale(xAxis, doc_.log_x != 0, doc_.x_axis_step);
-  SetScale(yAxis, doc_.log_y != 0, 0.0);
+  title_lines_ = doc_.chart.title_lines;
+  axis_titles_ = {Text(doc_.chart.axis_titles[0]),
+                  Text(doc_.chart.axis_titles[1])};
+  SetScale(xAxis, x_ticker_, doc_.log_x != 0, doc_.x_axis_step);
+  SetScale(yAxis, y_ticker_, doc_.log_y != 0, 0.0);
 
   // The display's switches come from the document before every drawing.
   MyGraphDisplay* display = FindDisplay(MyGraphDisplay::kComponentId);
@@ -168,7 +190,7 @@ void ChartWidget::AddLabels() {
     QString text = Text(label.content);
     if (!label.title.empty()) text.prepend(Text(label.title) + '\n');
     item->setText(text);
-    QFont f = font();
+    QFont f = base_font_;
     if (label.style == ChartLabel::kBoxed) {
       // Style2: a boxed note on white, readable over curves and grid.
       item->setPen(QPen(Qt::black));
@@ -203,6 +225,155 @@ void ChartWidget::FitRanges(const std::vector<PlotSeries>& series) {
   xAxis->setRange(r.x.lower, r.x.upper);
   yAxis->setRange(r.y.lower, r.y.upper);
   fitted_ = TakeFingerprint();
+}
+
+void ChartWidget::updateLayout() {
+  FitTexts();
+  // The corners are judged with the plot at its full width.
+  MoveLegendInside();
+  QCustomPlot::updateLayout();
+  bool again = legend->visible() && PlaceLegendAwayFromCurves();
+  // Ticks are made for the axis length of the layout before; a new length
+  // needs new ticks (and so new label widths and margins).
+  for (int pass = 0; pass < 3 && (again || TicksOutOfDate()); ++pass) {
+    QCustomPlot::updateLayout();
+    again = false;
+  }
+  if (legend_outside_) {
+    AlignLegendBesidePlot();
+    QCustomPlot::updateLayout();
+  }
+}
+
+void ChartWidget::FitTexts() {
+  const double points = ChartFontSize(
+      width(), height(), base_font_.pointSizeF(), kLegibleMinimumPoints);
+  const QFont text = Sized(base_font_, points);
+  for (QCPAxis* axis : {xAxis, yAxis}) axis->setTickLabelFont(text);
+  legend->setFont(text);
+  // Line samples as high as a line of text keep the legend compact.
+  const double text_height = QFontMetricsF(text).height();
+  legend->setIconSize(QSize(static_cast<int>(2.5 * text_height),
+                            static_cast<int>(text_height)));
+  legend->setRowSpacing(0);
+  if (legend_title_) legend_title_->setFont(text);
+  for (int i = 0; i < itemCount(); ++i) {
+    if (auto* label = qobject_cast<QCPItemText*>(item(i))) {
+      label->setFont(Sized(label->font(), points));
+    }
+  }
+
+  // Axis titles fit the axis they stand by (before the first layout, the
+  // chart's size stands in), the title the chart's width.
+  const QRect plot = axisRect()->rect().isEmpty() ? rect() : axisRect()->rect();
+  const std::array<int, 2> axis_room = {plot.width(), plot.height()};
+  const std::array<QCPAxis*, 2> axes = {xAxis, yAxis};
+  for (int a = 0; a < 2; ++a) {
+    const FittedText fit =
+        FitLines({axis_titles_[a].toStdString()}, axis_room[a], points,
+                 std::max(kLegibleMinimumPoints, kLeastTitleShrink * points),
+                 WidthIn(text), kMostAxisTitleLines);
+    QStringList lines;
+    for (const std::string& line : fit.lines) lines << Text(line);
+    axes[a]->setLabelFont(Sized(text, fit.points));
+    axes[a]->setLabel(lines.join(QLatin1Char('\n')));
+  }
+
+  QFont bold = base_font_;
+  bold.setBold(true);
+  const double title_points = ChartFontSize(
+      width(), height(), base_font_.pointSizeF() + 2.0, kLegibleMinimumPoints);
+  // The title takes a quarter of the chart's height at most.
+  const double line_height = QFontMetricsF(Sized(bold, title_points)).height();
+  const int most_lines =
+      std::max(1, static_cast<int>(height() * kMostTitleHeight / line_height));
+  const FittedText fit = FitLines(
+      title_lines_, width() - 2 * kTitlePadding, title_points,
+      std::max(kLegibleMinimumPoints, kLeastTitleShrink * title_points),
+      WidthIn(bold), most_lines);
+  QStringList lines;
+  for (const std::string& line : fit.lines) lines << Text(line);
+  title_->setFont(Sized(bold, fit.points));
+  title_->setText(lines.join(QLatin1Char('\n')));
+}
+
+bool ChartWidget::TicksOutOfDate() const {
+  return x_ticker_->laid_out_length() != axisRect()->width() ||
+         y_ticker_->laid_out_length() != axisRect()->height();
+}
+
+bool ChartWidget::PlaceLegendAwayFromCurves() {
+  std::vector<std::vector<PixelPointF>> curves;
+  for (int g = 0; g < graphCount(); ++g) {
+    const QCPGraph* graph = this->graph(g);
+    std::vector<PixelPointF> points;
+    points.reserve(graph->data()->size());
+    for (const QCPGraphData& d : *graph->data()) {
+      points.push_back(
+          {xAxis->coordToPixel(d.key), yAxis->coordToPixel(d.value)});
+    }
+    curves.push_back(std::move(points));
+  }
+  // The legend keeps the inset layout's margins from the plot's frame.
+  const QRect r = axisRect()->insetLayout()->rect();
+  const QSize size = legend->minimumOuterSizeHint();
+  const LegendPlace place =
+      PlaceLegend({double(r.left()), double(r.top()), double(r.right() + 1),
+                   double(r.bottom() + 1)},
+                  size.width(), size.height(), curves);
+  if (place == LegendPlace::kOutside) {
+    MoveLegendOutside();
+    return true;
+  }
+  QCPLayoutInset* inset = axisRect()->insetLayout();
+  const int index = inset->elements(false).indexOf(legend);
+  if (index < 0 || inset->insetAlignment(index) == CornerAlignment(place)) {
+    return false;
+  }
+  inset->setInsetAlignment(index, CornerAlignment(place));
+  return true;
+}
+
+void ChartWidget::MoveLegendInside() {
+  if (!legend_outside_) return;
+  QCPLayoutInset* inset = axisRect()->insetLayout();
+  const int index = inset->elements(false).indexOf(legend);
+  if (index >= 0) {
+    inset->setInsetPlacement(index, QCPLayoutInset::ipBorderAligned);
+    inset->setInsetAlignment(index, Qt::AlignTop | Qt::AlignRight);
+  }
+  axisRect()->setMinimumMargins(QMargins());
+  legend_outside_ = false;
+}
+
+void ChartWidget::MoveLegendOutside() {
+  if (legend_outside_) return;
+  // Right of the plot, level with its top, in a margin as wide as the
+  // legend; the title above still spans the whole chart.
+  QCPLayoutInset* inset = axisRect()->insetLayout();
+  const int index = inset->elements(false).indexOf(legend);
+  if (index < 0) return;
+  inset->setInsetPlacement(index, QCPLayoutInset::ipFree);
+  axisRect()->setMinimumMargins(
+      QMargins(0, 0, legend->minimumOuterSizeHint().width(), 0));
+  legend_outside_ = true;
+}
+
+void ChartWidget::AlignLegendBesidePlot() {
+  // The inset layout places in parts of its own rectangle, which lies
+  // inside the plot's.
+  QCPLayoutInset* inset = axisRect()->insetLayout();
+  const int index = inset->elements(false).indexOf(legend);
+  const QRect in = inset->rect();
+  const QRect plot = axisRect()->rect();
+  if (index < 0 || in.width() <= 0 || in.height() <= 0) return;
+  inset->setInsetRect(
+      index, QRectF(double(plot.left() + plot.width() - in.left()) / in.width(),
+                    double(plot.top() - in.top()) / in.height(), 0.0, 0.0));
+}
+
+QRect ChartWidget::LegendRect() const {
+  return legend->visible() ? legend->rect() : QRect();
 }
 
 void ChartWidget::paintEvent(QPaintEvent* event) {

@@ -1,17 +1,21 @@
 // A chart of a curve document over QCustomPlot: curves in the document's
 // colours and widths, title lines, axis titles, legend, free labels, log or
 // linear axes, MyGraphDisplay for frame and grid, and a frame around the plot.
-// Dragging a rectangle zooms in; ZoomOutAll shows all data again.
+// Dragging a rectangle zooms in; ZoomOutAll shows all data again. At every
+// layout the text sizes follow the window, titles fit its width and the
+// legend moves to where it hides no curve.
 #ifndef ZEL_APP_PLOT_CHART_WIDGET_H_
 #define ZEL_APP_PLOT_CHART_WIDGET_H_
 
 #include <array>
 #include <cstddef>
+#include <string>
 #include <vector>
 
+#include "app/plot/chart_axis_ticker.h"
 #include "app/plot/my_graph_display.h"
-#include "core/plot/chart_geometry.h"
 #include "core/document/curve_document.h"
+#include "core/plot/chart_geometry.h"
 #include "qcustomplot.h"
 
 namespace zel::app {
@@ -34,6 +38,9 @@ class ChartWidget : public QCustomPlot {
 
   // Renders the chart as it appears on screen, frame included.
   QImage RenderImage();
+  // The legend's rectangle in the chart's pixels while it is shown.
+  QRect LegendRect() const;
+  bool LegendOutsidePlot() const { return legend_outside_; }
 
  signals:
   // Mouse position in chart coordinates, for the status bar.
@@ -42,6 +49,7 @@ class ChartWidget : public QCustomPlot {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void updateLayout() override;
 
  private:
   struct Fingerprint {
@@ -54,8 +62,19 @@ class ChartWidget : public QCustomPlot {
   };
 
   void SetUpAxes();
-  // Log or linear; a positive `step` fixes a linear axis's tick step.
-  void SetScale(QCPAxis* axis, bool log, double step);
+  // Log or linear; a positive `step` is the finest tick step of a linear
+  // axis.
+  void SetScale(QCPAxis* axis, ChartAxisTicker* ticker, bool log, double step);
+  // Font sizes for the window's size; title and axis titles fitted to the
+  // room they have.
+  void FitTexts();
+  // Puts the legend into the corner that hides no curve, or beside the plot.
+  // Returns true when the layout has to be made again.
+  bool PlaceLegendAwayFromCurves();
+  void MoveLegendInside();
+  void MoveLegendOutside();
+  void AlignLegendBesidePlot();
+  bool TicksOutOfDate() const;
   // The drawable points of every curve, in curve order.
   std::vector<PlotSeries> AllDrawablePoints() const;
   void AddCurves(const std::vector<PlotSeries>& series);
@@ -68,7 +87,14 @@ class ChartWidget : public QCustomPlot {
   MyGraphDisplay* display_;
   QCPTextElement* title_;
   QCPTextElement* legend_title_ = nullptr;
+  ChartAxisTicker* x_ticker_;
+  ChartAxisTicker* y_ticker_;
   Fingerprint fitted_;
+  // The text as the document gives it, before it is fitted.
+  std::vector<std::string> title_lines_;
+  std::array<QString, 2> axis_titles_;
+  QFont base_font_;
+  bool legend_outside_ = false;
 };
 
 }  // namespace zel::app

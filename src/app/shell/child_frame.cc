@@ -1,5 +1,7 @@
 #include "app/shell/child_frame.h"
 
+#include <QFileInfo>
+
 #include "app/dialogs/dlg_title.h"
 #include "app/dialogs/dlg_unit.h"
 #include "app/plot/chart_export.h"
@@ -13,6 +15,9 @@ namespace {
 constexpr const char* kSaveFilter =
     "ZEL Data File (*.zel)|*.zel|BMP Image (*.bmp)|*.bmp|JPEG Image "
     "(*.jpg)|*.jpg|Enhanced Metafile Image(*.emf)|*.emf||";
+constexpr const char* kNoPointsQuestion =
+    "The document holds no saved points; saving will write curves without "
+    "data. Save anyway?";
 constexpr const char* kNoMetafile =
     "Saving the chart as an enhanced metafile is not available yet; nothing "
     "was saved. Choose BMP or JPEG for an image.";
@@ -103,6 +108,12 @@ void CChildFrame::OnFileSave() {
   MessageSink& messages = *ui.messages;
   switch (SaveKindOfPath(path.toStdString())) {
     case SaveKind::kDataFile:
+      // A document read by File Open keeps no point counts: overwriting its
+      // file (most likely the one it came from) would empty every curve.
+      if (QFileInfo::exists(path) && WritesCurvesWithoutPoints(*doc_) &&
+          !ui.ask_yes_no(this, QString::fromLatin1(kNoPointsQuestion))) {
+        return;
+      }
       if (WriteDataFile(*doc_, path.toStdString(), messages)) {
         app_.AddToRecentFileList(path);
       }

@@ -53,6 +53,7 @@ enum CommandId : int {
   ID_FILE_MRU_FILE1 = 57616,
   ID_WINDOW_CASCADE = 57650,
   ID_WINDOW_TILE = 57651,
+  ID_WINDOW_FIRST_CHILD = 65280,  // the Window menu's list of open windows
   ID_APP_ABOUT = 57664,
   ID_APP_EXIT = 57665,
   ID_VIEW_TOOLBAR = 59392,

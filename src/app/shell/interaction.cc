@@ -52,6 +52,11 @@ Interaction Interaction::Desktop() {
   ui.open_file = AskOpenFile;
   ui.save_file = AskSaveFile;
   ui.run_dialog = [](QDialog& dialog) { return dialog.exec(); };
+  ui.ask_yes_no = [](QWidget* parent, const QString& question) {
+    return QMessageBox::question(parent, QStringLiteral("ZEL"), question,
+                                 QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
+  };
   return ui;
 }
 

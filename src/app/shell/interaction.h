@@ -28,6 +28,8 @@ struct Interaction {
   // Runs a modal dialog and returns its result (QDialog::Accepted or
   // QDialog::Rejected).
   std::function<int(QDialog& dialog)> run_dialog;
+  // Asks a Yes/No question, No by default; true for Yes.
+  std::function<bool(QWidget* parent, const QString& question)> ask_yes_no;
 
   // The real message boxes and dialogs.
   static Interaction Desktop();

@@ -5,10 +5,13 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
@@ -44,6 +47,28 @@ bool IsGenerate(const CommandEntry& e) {
   return QLatin1String(e.menu) == QLatin1String("Generate");
 }
 
+// `text` as a menu text with a mnemonic: the first letter of a word whose
+// letter is not in `used` yet, else any such letter or digit. The letter
+// taken is added to `used`. Ampersands of the text itself are shown as such.
+QString WithMnemonic(const QString& text, QString& used) {
+  QString menu_text = text;
+  menu_text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+  for (int pass = 0; pass < 2; ++pass) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+      const QChar c = text[i].toUpper();
+      const bool word_start = i == 0 || !text[i - 1].isLetterOrNumber();
+      if (!c.isLetterOrNumber() || used.contains(c) ||
+          (pass == 0 && !word_start)) {
+        continue;
+      }
+      used += c;
+      return menu_text.insert(i + text.left(i).count(QLatin1Char('&')),
+                              QLatin1Char('&'));
+    }
+  }
+  return menu_text;
+}
+
 void Apply(QAction* action, const CommandState& state) {
   action->setEnabled(state.enabled);
   action->setChecked(state.checked);
@@ -69,6 +94,16 @@ CMainFrame::CMainFrame(CZELwApp& app, QWidget* parent)
           &CMainFrame::RebuildRecentFiles);
   RebuildRecentFiles();
   UpdateCommandUI();
+  // F10 reaches the menu bar, as on every desktop that has one.
+  auto* f10 = new QShortcut(QKeySequence(Qt::Key_F10), this);
+  connect(f10, &QShortcut::activated, this, [this] {
+    for (QAction* top : menuBar()->actions()) {
+      if (top->isVisible()) {
+        menuBar()->setActiveAction(top);
+        return;
+      }
+    }
+  });
 
   resize(1000, 720);
   if (QScreen* screen = this->screen()) {
@@ -85,21 +120,26 @@ CMainFrame::~CMainFrame() {
 }
 
 void CMainFrame::BuildMenus() {
+  // Every menu and item gets a mnemonic letter, unique within its menu.
+  std::map<QMenu*, QString> used;
+  QString used_on_bar;
   for (const char* title : MenuTitles()) {
-    menus_[QLatin1String(title)] = menuBar()->addMenu(QLatin1String(title));
+    menus_[QLatin1String(title)] =
+        menuBar()->addMenu(WithMnemonic(QLatin1String(title), used_on_bar));
   }
   for (const CommandEntry& e : CommandTable()) {
     QMenu* menu = menus_.at(QLatin1String(e.menu));
     if (e.submenu) {
-      if (!design_menu_) design_menu_ = menu->addMenu(QLatin1String(e.submenu));
+      if (!design_menu_) {
+        design_menu_ =
+            menu->addMenu(WithMnemonic(QLatin1String(e.submenu), used[menu]));
+      }
       menu = design_menu_;
     }
-    // An "&" in a menu text is a mnemonic to Qt; "Newmark & Hall" must
-    // show its ampersand.
     QAction* action =
-        e.id == 0 ? menu->addSeparator()
-                  : menu->addAction(QString(QLatin1String(e.text))
-                                        .replace(QLatin1Char('&'), "&&"));
+        e.id == 0
+            ? menu->addSeparator()
+            : menu->addAction(WithMnemonic(QLatin1String(e.text), used[menu]));
     action->setData(e.id);
     action->setProperty("zel_scope", static_cast<int>(e.scope));
     if (e.id == 0) continue;
@@ -113,6 +153,7 @@ void CMainFrame::BuildMenus() {
   }
   QMenu* file = menus_.at(QStringLiteral("File"));
   recent_separator_ = file->insertSeparator(actions_.at(ID_APP_EXIT));
+  window_separator_ = menus_.at(QStringLiteral("Window"))->addSeparator();
   for (const auto& [name, menu] : menus_) {
     connect(menu, &QMenu::aboutToShow, this, &CMainFrame::UpdateCommandUI);
   }
@@ -224,23 +265,58 @@ int CMainFrame::CascadeStep() const {
 }
 
 void CMainFrame::CascadeChildren() {
-  // Qt's own cascade shrinks the windows to their size hints; here every
-  // window keeps the size a new one gets.
-  const QRect area = ChildArea();
-  const QSize size = ChildWindowSize(area.size());
+  // Qt's own cascade shrinks the windows to their size hints and lets later
+  // windows cover earlier title bars; here the windows keep the size a new
+  // one gets as far as every title bar stays in sight.
   QMdiSubWindow* active = mdi_->activeSubWindow();
-  bool first = true;
-  QPoint position = area.topLeft();
+  QList<QMdiSubWindow*> windows;
   for (QMdiSubWindow* window : mdi_->subWindowList(QMdiArea::StackingOrder)) {
     if (window->isHidden() || window->isMinimized()) continue;
     if (window->isMaximized()) window->showNormal();
-    if (!first)
-      position = NextCascadePosition(area, position, size, CascadeStep());
-    first = false;
-    window->setGeometry(QRect(position, size));
-    window->raise();
+    windows << window;
+  }
+  const QRect area = ChildArea();
+  const std::vector<QRect> rects =
+      CascadeLayout(area, static_cast<int>(windows.size()),
+                    ChildWindowSize(area.size()), CascadeStep());
+  for (qsizetype i = 0; i < windows.size(); ++i) {
+    windows[i]->setGeometry(rects[i]);
+    windows[i]->raise();
   }
   if (active) mdi_->setActiveSubWindow(active);
+}
+
+void CMainFrame::RebuildWindowList() {
+  QMenu* menu = menus_.at(QStringLiteral("Window"));
+  for (QAction* a : window_actions_) {
+    menu->removeAction(a);
+    a->deleteLater();  // it may be the one being triggered
+  }
+  window_actions_.clear();
+  const QList<QMdiSubWindow*> windows =
+      mdi_->subWindowList(QMdiArea::CreationOrder);
+  QMdiSubWindow* active = mdi_->activeSubWindow();
+  for (qsizetype i = 0; i < windows.size(); ++i) {
+    // The first nine are reached by their digit.
+    const QString number =
+        i < 9 ? QStringLiteral("&%1").arg(i + 1) : QString::number(i + 1);
+    QString title = windows[i]->windowTitle();
+    auto* action = new QAction(
+        number + QLatin1Char(' ') + title.replace(QLatin1Char('&'), "&&"),
+        menu);
+    action->setData(ID_WINDOW_FIRST_CHILD + static_cast<int>(i));
+    action->setCheckable(true);
+    action->setChecked(windows[i] == active);
+    QPointer<QMdiSubWindow> window = windows[i];
+    connect(action, &QAction::triggered, this, [this, window] {
+      if (!window) return;
+      if (window->isMinimized()) window->showNormal();
+      mdi_->setActiveSubWindow(window);
+    });
+    menu->addAction(action);
+    window_actions_ << action;
+  }
+  window_separator_->setVisible(!windows.isEmpty());
 }
 
 CChildFrame* CMainFrame::ActiveChild() const {
@@ -338,10 +414,14 @@ void CMainFrame::OnCommand(int id) {
 void CMainFrame::UpdateCommandUI() {
   const CZELwDoc* doc = ActiveDocument();
   const bool has_doc = doc != nullptr;
+  RebuildWindowList();
   for (const auto& [name, menu] : menus_) {
     bool visible = false;
     for (QAction* a : menu->actions()) {
-      if (a == recent_separator_ || recent_actions_.contains(a)) continue;
+      if (a == recent_separator_ || recent_actions_.contains(a) ||
+          a == window_separator_ || window_actions_.contains(a)) {
+        continue;
+      }
       const QVariant scope = a->property("zel_scope");
       if (!scope.isValid()) {  // a submenu
         visible = visible || a->isVisible();

@@ -1,6 +1,7 @@
 // CMainFrame: the main window. A multi-document area holds one CChildFrame
-// per document; the menus come from the command table and show the document
-// commands only while a document is active; the status bar shows each
+// per document; the menus come from the command table, each with its
+// mnemonic, and show the document commands only while a document is active;
+// the Window menu lists the open windows; the status bar shows each
 // command's prompt and three indicators (cursor X, cursor Y, unit).
 #ifndef ZEL_APP_SHELL_MAIN_FRAME_H_
 #define ZEL_APP_SHELL_MAIN_FRAME_H_
@@ -65,9 +66,11 @@ class CMainFrame : public QMainWindow {
   QRect ChildArea() const;
   // The offset between cascaded windows: one title bar.
   int CascadeStep() const;
-  // Window / Cascade: every window at the size of a new one, each one step
-  // below and right of the one behind it.
+  // Window / Cascade: every window one step below and right of the one
+  // behind it, every title bar in sight.
   void CascadeChildren();
+  // The Window menu's list of the open windows; choosing one activates it.
+  void RebuildWindowList();
 
   CZELwApp& app_;
   CommandRegistry commands_;
@@ -78,6 +81,8 @@ class CMainFrame : public QMainWindow {
   QMenu* design_menu_ = nullptr;
   QAction* recent_separator_ = nullptr;
   QList<QAction*> recent_actions_;
+  QAction* window_separator_ = nullptr;
+  QList<QAction*> window_actions_;
   QToolBar* tool_bar_ = nullptr;
   QLabel* cursor_x_ = nullptr;
   QLabel* cursor_y_ = nullptr;

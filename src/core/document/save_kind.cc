@@ -1,5 +1,7 @@
 #include "core/document/save_kind.h"
 
+#include <algorithm>
+
 namespace zel {
 
 SaveKind SaveKindOfPath(std::string_view path) {
@@ -13,6 +15,13 @@ SaveKind SaveKindOfPath(std::string_view path) {
   if (ext == "jpg" || ext == "JPG") return SaveKind::kJpeg;
   if (ext == "emf" || ext == "EMF") return SaveKind::kMetafile;
   return SaveKind::kDataFile;
+}
+
+bool WritesCurvesWithoutPoints(const CZELwDoc& doc) {
+  for (int c = 0; c < std::min(doc.curve_count, kMaxCurves); ++c) {
+    if (doc.point_count[c] == 0 && doc.StoredPoints(c) > 0) return true;
+  }
+  return false;
 }
 
 }  // namespace zel

@@ -5,6 +5,8 @@
 
 #include <string_view>
 
+#include "core/document/curve_document.h"
+
 namespace zel {
 
 enum class SaveKind { kDataFile, kBitmap, kJpeg, kMetafile };
@@ -14,6 +16,11 @@ enum class SaveKind { kDataFile, kBitmap, kJpeg, kMetafile };
 // extension such as "Bmp", any other extension and none at all write the
 // data file.
 SaveKind SaveKindOfPath(std::string_view path);
+
+// True when writing the data file would lose curves: some curve holds values
+// but no point count, so its *DATA block would be written empty. A document
+// read by File Open is such a one (it keeps no point counts).
+bool WritesCurvesWithoutPoints(const CZELwDoc& doc);
 
 }  // namespace zel
 

@@ -75,13 +75,22 @@ PlotSeries DrawablePoints(const CZELwDoc& doc, int c) {
 
 ChartRanges FitChartRanges(const CZELwDoc& doc,
                            const std::vector<PlotSeries>& series) {
+  const bool clamp = doc.chart.log_range;
+  // While the log range handling is on, a point below a log axis's minimum
+  // lies outside the chart (a spectrum's zero period, its value near zero):
+  // it must not stretch either axis over decades that show nothing.
+  const double min_x = clamp && doc.log_x ? doc.chart.log_min_x : 0.0;
+  const double min_y = clamp && doc.log_y ? doc.chart.log_min_y : 0.0;
   Bounds bx;
   Bounds by;
   for (const PlotSeries& s : series) {
-    for (double v : s.x) bx.Add(v);
-    for (double v : s.y) by.Add(v);
+    for (std::size_t i = 0; i < s.x.size() && i < s.y.size(); ++i) {
+      if (min_x > 0.0 && s.x[i] < min_x) continue;
+      if (min_y > 0.0 && s.y[i] < min_y) continue;
+      bx.Add(s.x[i]);
+      by.Add(s.y[i]);
+    }
   }
-  const bool clamp = doc.chart.log_range;
   ChartRanges r;
   r.x =
       doc.log_x ? FitLog(bx, clamp, doc.chart.log_min_x) : FitLinear(bx, false);

@@ -6,8 +6,8 @@
 
 #include <vector>
 
-#include "core/plot/chart_model.h"
 #include "core/document/curve_document.h"
+#include "core/plot/chart_model.h"
 
 namespace zel {
 
@@ -36,11 +36,12 @@ struct ChartRanges {
   AxisRange y;
 };
 
-// Ranges that show every drawable point of `series`. Log axes span whole
-// decades and, while the log-range handling is on, start no lower than its
-// minimum; a linear Y axis of positive values starts at 0 and leaves a
-// little room above the highest value. An empty or flat
-// set of values still gives a valid, non-empty range.
+// Ranges that show every drawable point of `series`. Log axes span the
+// whole decades of the values; while the log-range handling is on they start
+// no lower than its minimum, and a point below the minimum of a log axis
+// counts for neither axis. A linear Y axis of positive values starts at 0
+// and leaves a little room above the highest value. An empty or flat set of
+// values still gives a valid, non-empty range.
 ChartRanges FitChartRanges(const CZELwDoc& doc,
                            const std::vector<PlotSeries>& series);
 
