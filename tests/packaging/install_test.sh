@@ -38,6 +38,14 @@ cd "$work"
 QT_QPA_PLATFORM=offscreen "$prefix/bin/zel" --export x.zel x.png ||
   fail "zel --export"
 [ "$(head -c 4 x.png | tail -c 3)" = "PNG" ] || fail "not a PNG"
+# With no dbase/ beside it, the program takes the catalog's records from the
+# installed data folder (here a small stand-in record).
+[ ! -e "$prefix/bin/dbase" ] || fail "records installed beside the program"
+mkdir -p "$prefix/share/zel/dbase"
+printf '0.0, 0.0\n0.02, 0.5\n0.04, -0.25\n0.06, 0.0\n' \
+  >"$prefix/share/zel/dbase/Elcent_h.dbs"
+"$prefix/bin/zel-cli" record 1 -o r.zel | grep -q '0.5000(g)' ||
+  fail "zel-cli record 1 from the installed records"
 
 # The package of the same tree names the libraries it needs.
 cpack -G DEB --config "$build/CPackConfig.cmake" -B "$work/package" \

@@ -5,8 +5,9 @@
 
 #include "core/records/record_catalog.h"
 
-#ifndef ZEL_DATA_DIR
-#define ZEL_DATA_DIR "/usr/local/share/zel"
+// The installed data folder relative to the installed program's folder.
+#ifndef ZEL_DATA_FROM_BIN
+#define ZEL_DATA_FROM_BIN "../share/zel"
 #endif
 
 namespace zel {
@@ -28,7 +29,10 @@ std::string ChooseRecordBaseFolder(const std::string& program_folder,
 }
 
 std::string RecordBaseFolder() {
-  return ChooseRecordBaseFolder(ProgramFolder(), ZEL_DATA_DIR "/");
+  const std::string program = ProgramFolder();
+  const std::filesystem::path data =
+      (std::filesystem::path(program) / ZEL_DATA_FROM_BIN).lexically_normal();
+  return ChooseRecordBaseFolder(program, (data / "").string());
 }
 
 }  // namespace zel
