@@ -4,6 +4,7 @@
 #include "cli/design_command.h"
 #include "cli/file_commands.h"
 #include "cli/record_commands.h"
+#include "cli/scale_command.h"
 
 int main(int argc, char** argv) {
   CLI::App app{"ZEL command line: seismic input data without the GUI",
@@ -13,6 +14,7 @@ int main(int argc, char** argv) {
   zel::cli::AddFileCommands(app);
   zel::cli::AddDesignCommand(app);
   zel::cli::AddRecordCommands(app);
+  zel::cli::AddScaleCommand(app);
   CLI11_PARSE(app, argc, argv);
   return 0;
 }

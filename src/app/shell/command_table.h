@@ -12,6 +12,9 @@ namespace zel::app {
 enum CommandId : int {
   ID_GENERATE_EQ_RECORD = 32775,
   ID_GENERATE_RESPONSE_SPECTRA = 32776,
+  // A record against a design code: commands on the active document.
+  ID_ADD_DESIGN_SPECTRUM = 32830,
+  ID_SCALE_TO_DESIGN = 32831,
   ID_DESIGN_IBC2000 = 32811,
   ID_DESIGN_UBC97 = 32790,
   ID_DESIGN_UBC = 32778,

@@ -19,6 +19,7 @@
 #include "app/dialogs/cdlg_nbc1995.h"
 #include "app/dialogs/cdlg_ntc2018.h"
 #include "app/dialogs/dlg_atc.h"
+#include "app/dialogs/dlg_design_overlay.h"
 #include "app/dialogs/dlg_euro1996_elastic.h"
 #include "app/dialogs/dlg_kbc2005.h"
 #include "app/dialogs/dlg_kds2019.h"
@@ -27,6 +28,7 @@
 #include "app/dialogs/dlg_ks_bridge.h"
 #include "app/dialogs/dlg_ksce2019.h"
 #include "app/dialogs/dlg_newmark.h"
+#include "app/dialogs/dlg_scale.h"
 #include "app/dialogs/dlg_ubc.h"
 #include "app/dialogs/dlg_ubc97.h"
 #include "app/dialogs/earth_dlg.h"
@@ -37,6 +39,8 @@
 #include "app/shell/main_frame.h"
 #include "app/shell/zelw_app.h"
 #include "core/records/frequency_switch.h"
+#include "core/scaling/design_target.h"
+#include "core/scaling/record_scaling.h"
 
 namespace zel::app {
 namespace {
@@ -46,6 +50,11 @@ template <class Dialog>
 void RunGenerateDialog(CMainFrame& frame) {
   Dialog dialog(frame.app(), &frame);
   frame.app().RunDialog(dialog);
+}
+
+// The application's dialog runner, for a dialog that opens another one.
+DialogRunner Runner(CZELwApp& app) {
+  return [&app](QDialog& dialog) { return app.RunDialog(dialog); };
 }
 
 }  // namespace
@@ -59,6 +68,28 @@ void RegisterCommands(CommandRegistry& registry) {
     if (CChildFrame* child = frame.ActiveChild()) {
       SwitchTimeFrequency(child->GetDocument(), frame.app().messages());
     }
+  });
+
+  // A record against a design code.
+  registry.Register(ID_ADD_DESIGN_SPECTRUM, [](CMainFrame& frame) {
+    CZELwApp& app = frame.app();
+    CChildFrame* child = frame.ActiveChild();
+    if (child == nullptr ||
+        !CanAddDesignSpectrum(child->GetDocument(), app.messages())) {
+      return;
+    }
+    DLG_DESIGN_OVERLAY dialog(app, child->GetDocument(), Runner(app), &frame);
+    app.RunDialog(dialog);
+  });
+  registry.Register(ID_SCALE_TO_DESIGN, [](CMainFrame& frame) {
+    CZELwApp& app = frame.app();
+    CChildFrame* child = frame.ActiveChild();
+    if (child == nullptr || !HoldsRecord(child->GetDocument())) {
+      app.messages().Show(kScaleNeedsRecordMessage);
+      return;
+    }
+    DLG_SCALE dialog(app, child->GetDocument(), Runner(app), &frame);
+    app.RunDialog(dialog);
   });
 
   // Design spectra by code.

@@ -107,7 +107,9 @@ void CZELwDoc::SetDampingLegend() {
   chart.legend.title = "Damping :";
   chart.legend.entries.clear();
   for (int c = 0; c < std::min(curve_count, kMaxCurves); ++c) {
-    chart.legend.entries.push_back(CFormat(" %1.2f", damping[c]));
+    chart.legend.entries.push_back(curve_legend[c].empty()
+                                       ? CFormat(" %1.2f", damping[c])
+                                       : curve_legend[c]);
   }
 }
 

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "core/plot/chart_model.h"
 #include "core/document/data_store.h"
+#include "core/plot/chart_model.h"
 
 namespace zel {
 
@@ -68,7 +68,8 @@ class CZELwDoc {
   void ConvertUnit(int new_index);
   // Adds a free label; carriage returns are removed from the content.
   void AddLabel(ChartLabel label);
-  // Legend "Damping :" with one " %1.2f" entry per curve.
+  // Legend "Damping :" with one " %1.2f" entry per curve, or the curve's
+  // own legend text where it has one.
   void SetDampingLegend();
 
   // The framework's title of the document's window.
@@ -102,6 +103,9 @@ class CZELwDoc {
   int curve_count = 1;
   std::array<int, kMaxCurves> point_count{};
   std::array<double, kMaxCurves> damping{};
+  // A legend entry that takes the place of the damping ratio, such as a
+  // design code's title laid over response spectra; empty for a ratio.
+  std::array<std::string, kMaxCurves> curve_legend{};
 
   // --- Display flags ---
   int record_flag = 0;

@@ -206,7 +206,14 @@ int DataFileReader::Read() {
     if (c >= kMaxCurves) {
       return Fail("Error : Too many curves! A document holds at most 6.");
     }
+    tokens_.ClearComment();
     if (doc_.damping_flag != 0 && NextKeyword() == "DAMPING") {
+      if (tokens_.comment().starts_with(kLegendComment)) {
+        std::string legend =
+            tokens_.comment().substr(std::string_view(kLegendComment).size());
+        TrimRight(legend);
+        doc_.curve_legend[c] = legend;
+      }
       doc_.damping[c] = AtoF(NextField());
       doc_.curve_count = c + 1;
     }
@@ -278,6 +285,13 @@ bool WriteDataFile(const CZELwDoc& doc, const std::string& path,
   for (int c = 0; c < doc.curve_count && c < kMaxCurves; ++c) {
     out += "*DATA\n";
     if (doc.damping_flag == 1) {
+      if (!doc.curve_legend[c].empty()) {
+        std::string legend = doc.curve_legend[c];
+        for (char& ch : legend) {
+          if (ch == '\r' || ch == '\n') ch = ' ';
+        }
+        out += "**" + std::string(kLegendComment) + legend + "\n";
+      }
       out += CFormat("*DAMPING, %1.2f\n", doc.damping[c]);
     }
     for (int i = 0; i < doc.point_count[c]; ++i) {

@@ -11,6 +11,13 @@
 
 namespace zel {
 
+// A curve with a legend text of its own (a design spectrum laid over
+// response spectra) is written with the comment line "**LEGEND, " + text
+// between its "*DATA" and "*DAMPING" lines. Readers that do not know it skip
+// it as a comment and show the damping ratio; files without it read as they
+// always have.
+inline constexpr char kLegendComment[] = "LEGEND, ";
+
 // Writes `doc` to `path` through a ReplacingFile: a failed save never
 // destroys an earlier one. Shows "ERROR! File Not Found!" (with the path and
 // the system's reason where the messages take them) when the file cannot be

@@ -40,9 +40,12 @@ int Tokenizer::ReadToken(std::string& token) {
     }
     // "**" starts a comment that runs to the end of the line. The character
     // after it is taken as it is, without skipping blanks.
-    do {
-      ch = Get();
-    } while (ch != '\n' && ch != kEnd);
+    comment_.clear();
+    for (ch = Get(); ch != '\n' && ch != kEnd; ch = Get()) {
+      if (ch != '\r' && comment_.size() < kMaxCommentLength) {
+        comment_.push_back(static_cast<char>(ch));
+      }
+    }
     if (ch == kEnd) return -1;
     ch = Get();
     if (ch == kEnd) return -1;

@@ -35,6 +35,12 @@ class Tokenizer {
   // The line of the first NUL byte read, 0 while none has been: text files
   // hold none, UTF-16 and binary files do.
   int nul_line() const { return nul_line_; }
+  // The text after "**" of the last comment line passed over since
+  // ClearComment, without its line end; at most kMaxCommentLength
+  // characters are kept.
+  const std::string& comment() const { return comment_; }
+  void ClearComment() { comment_.clear(); }
+  static constexpr std::size_t kMaxCommentLength = 256;
 
  private:
   static constexpr int kEnd = -1;
@@ -61,6 +67,7 @@ class Tokenizer {
   int token_line_ = 1;
   int nul_line_ = 0;
   bool too_long_ = false;
+  std::string comment_;
 };
 
 // Removes trailing blanks, carriage returns, tabs and line feeds.

@@ -37,6 +37,11 @@ int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages) {
     messages.Show(kRecordReadFailedMessage);
     return 0;
   }
+  ShowRecordSamples(doc);
+  return 1;
+}
+
+void ShowRecordSamples(CZELwDoc& doc) {
   doc.record_flag = 1;
   const RecordPeak peak = StoreTimeHistory(doc);
   doc.SetAxisTitle(1, "Ground Accel. (g)");
@@ -48,7 +53,6 @@ int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages) {
   SetContextLabel(
       doc, CFormat("Max = %8.4f(g) at %6.3f sec", peak.magnitude, peak.time));
   doc.UpdateAllViews();
-  return 1;
 }
 
 }  // namespace zel

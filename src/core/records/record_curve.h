@@ -21,6 +21,10 @@ void PrepareRecordDocument(CZELwDoc& doc, double amplitude_scale,
 // leaves the curves empty and returns 0.
 int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages);
 
+// Makes the record already in the document its first curve, as
+// ShowRecordCurve does after reading.
+void ShowRecordSamples(CZELwDoc& doc);
+
 struct RecordPeak {
   double magnitude = 0.0;  // |acceleration|
   double time = 0.0;
