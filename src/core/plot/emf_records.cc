@@ -1,6 +1,7 @@
 #include "core/plot/emf_records.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdlib>
 #include <limits>
 #include <tuple>
@@ -58,6 +59,7 @@ EmfWriter::EmfWriter(std::int32_t width, std::int32_t height,
   width = std::max(width, 1);
   height = std::max(height, 1);
   units_per_mm = std::max(units_per_mm, 1);
+  units_per_mm_ = units_per_mm;
   // The reference device: whole millimetres, exactly `units_per_mm` device
   // units to each, at least as large as the picture.
   const std::int32_t mm_x = (width + units_per_mm - 1) / units_per_mm;
@@ -189,13 +191,24 @@ void EmfWriter::DeleteUnselected() {
   sweep(fonts_);
 }
 
-void EmfWriter::SelectPen(const EmfPen& pen) {
+template <typename Key, typename Body>
+void EmfWriter::SelectMade(std::map<Key, std::uint32_t>& made, const Key& key,
+                           int kind, std::uint32_t type, Body body) {
   if (finished_) return;
-  auto it = pens_.find(pen);
-  if (it == pens_.end()) {
+  auto it = made.find(key);
+  if (it == made.end()) {
     const std::uint32_t handle = NewHandle();
-    const std::size_t start = Begin(kEmrExtCreatePen);
+    const std::size_t start = Begin(type);
     U32(handle);
+    body();
+    End(start);
+    it = made.emplace(key, handle).first;
+  }
+  Select(it->second, kind);
+}
+
+void EmfWriter::SelectPen(const EmfPen& pen) {
+  SelectMade(pens_, pen, kPen, kEmrExtCreatePen, [&] {
     U32(0);  // no brush bitmap: offset and size of header and bits
     U32(0);
     U32(0);
@@ -206,39 +219,23 @@ void EmfWriter::SelectPen(const EmfPen& pen) {
     Colour(pen.colour);
     U32(0);  // hatch
     U32(0);  // no style entries
-    End(start);
-    it = pens_.emplace(pen, handle).first;
-  }
-  Select(it->second, kPen);
+  });
 }
 
 void EmfWriter::SelectNullPen() { Select(kNullPen, kPen); }
 
 void EmfWriter::SelectBrush(const EmfColour& colour) {
-  if (finished_) return;
-  auto it = brushes_.find(colour);
-  if (it == brushes_.end()) {
-    const std::uint32_t handle = NewHandle();
-    const std::size_t start = Begin(kEmrCreateBrushIndirect);
-    U32(handle);
+  SelectMade(brushes_, colour, kBrush, kEmrCreateBrushIndirect, [&] {
     U32(0);  // solid
     Colour(colour);
-    U32(0);
-    End(start);
-    it = brushes_.emplace(colour, handle).first;
-  }
-  Select(it->second, kBrush);
+    U32(0);  // hatch
+  });
 }
 
 void EmfWriter::SelectNullBrush() { Select(kNullBrush, kBrush); }
 
 void EmfWriter::SelectFont(const EmfFont& font) {
-  if (finished_) return;
-  auto it = fonts_.find(font);
-  if (it == fonts_.end()) {
-    const std::uint32_t handle = NewHandle();
-    const std::size_t start = Begin(kEmrExtCreateFontIndirectW);
-    U32(handle);
+  SelectMade(fonts_, font, kFont, kEmrExtCreateFontIndirectW, [&] {
     // LOGFONTW; in compatible graphics mode the baseline and the characters
     // turn together, so orientation equals escapement.
     I32(-std::abs(font.height));
@@ -254,17 +251,13 @@ void EmfWriter::SelectFont(const EmfFont& font) {
     U8(0);  // clip precision
     U8(kAntialiasedQuality);
     U8(font.pitch_and_family);
-    const std::u16string face = font.face.substr(0, kFaceUnits - 1);
-    Utf16(face, kFaceUnits);
+    Utf16(font.face.substr(0, kFaceUnits - 1), kFaceUnits);
     // The rest of LogFontPanose: full name, style, version, style size,
     // match, reserved, vendor, culture, panose and padding, all empty.
     Utf16(u"", 64 + 32);
     for (int i = 0; i < 6; ++i) U32(0);
     for (int i = 0; i < 12; ++i) U8(0);
-    End(start);
-    it = fonts_.emplace(font, handle).first;
-  }
-  Select(it->second, kFont);
+  });
 }
 
 void EmfWriter::SetTextColour(const EmfColour& colour) {
@@ -285,10 +278,10 @@ void EmfWriter::SetClip(const EmfRect* rect) {
 bool EmfWriter::Draws() {
   if (finished_) return false;
   if (wanted_clipped_ == clipped_ &&
-      (!clipped_ || std::tie(wanted_clip_.left, wanted_clip_.top,
-                             wanted_clip_.right, wanted_clip_.bottom) ==
-                        std::tie(clip_.left, clip_.top, clip_.right,
-                                 clip_.bottom))) {
+      (!clipped_ ||
+       std::tie(wanted_clip_.left, wanted_clip_.top, wanted_clip_.right,
+                wanted_clip_.bottom) ==
+           std::tie(clip_.left, clip_.top, clip_.right, clip_.bottom))) {
     return true;
   }
   // Back to the whole picture, then narrowed.
@@ -373,8 +366,10 @@ void EmfWriter::TextOut(EmfPoint origin, const std::u16string& text,
   const std::size_t start = Begin(kEmrExtTextOutW);
   Rect({0, 0, -1, -1});  // bounds: not computed
   U32(kGmCompatible);
-  U32(0);  // x and y scale: used only in advanced graphics mode
-  U32(0);
+  // Hundredths of a millimetre to a unit, along x and along y.
+  const float scale = 100.0f / static_cast<float>(units_per_mm_);
+  U32(std::bit_cast<std::uint32_t>(scale));
+  U32(std::bit_cast<std::uint32_t>(scale));
   I32(origin.x);
   I32(origin.y);
   U32(static_cast<std::uint32_t>(text.size()));

@@ -151,9 +151,15 @@ class EmfWriter {
   // deleted first.
   std::uint32_t NewHandle();
   void Select(std::uint32_t handle, int kind);
+  // Selects the object made for `key`, first writing its creation record
+  // (type, slot, then what `body` writes) when there is none yet.
+  template <typename Key, typename Body>
+  void SelectMade(std::map<Key, std::uint32_t>& made, const Key& key, int kind,
+                  std::uint32_t type, Body body);
   void DeleteUnselected();
 
   std::string bytes_;
+  std::int32_t units_per_mm_ = 1;
   std::uint32_t records_ = 0;
   std::uint32_t handle_count_ = 1;  // slot 0 is the metafile itself
   std::vector<std::uint32_t> free_handles_;
