@@ -128,6 +128,8 @@ TEST_F(TripartiteChart, ExportWritesThePictureOrSaysWhyNot) {
   const QImage image(out);
   EXPECT_EQ(image.size(), QSize(400, 300));
   EXPECT_GT(Count(image, kBlue), 0);
+  EXPECT_EQ(RunExport({"--export", in, out + ".emf"}), 0);
+  EXPECT_EQ(zel::testing::ReadAll((dir / "nh.png.emf")).substr(40, 4), " EMF");
   EXPECT_EQ(RunExport({"--export", in, out + "2", "--size=1x300"}), 2);
   EXPECT_EQ(RunExport({"--export", in, in + ".gif"}), 2);
   EXPECT_EQ(RunExport({"--export", in}), 2);
@@ -135,7 +137,7 @@ TEST_F(TripartiteChart, ExportWritesThePictureOrSaysWhyNot) {
   EXPECT_EQ(WindowCount(), 0);
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()),
                           std::filesystem::directory_iterator()),
-            2);
+            3);
 }
 
 }  // namespace

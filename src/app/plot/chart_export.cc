@@ -19,11 +19,14 @@ bool SaveChartImage(ChartWidget& chart, const QString& path,
   if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format, 95)) {
     return false;
   }
-  // Saved as the data file is: a failed save leaves the old picture.
+  return ReplaceFileWith(
+      path, std::string_view(bytes.constData(),
+                             static_cast<std::size_t>(bytes.size())));
+}
+
+bool ReplaceFileWith(const QString& path, std::string_view bytes) {
   ReplacingFile file(QFile::encodeName(path).toStdString());
-  return file.Write(std::string_view(bytes.constData(),
-                                     static_cast<std::size_t>(bytes.size()))) &&
-         file.Commit();
+  return file.Write(bytes) && file.Commit();
 }
 
 }  // namespace zel::app

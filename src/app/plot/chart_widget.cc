@@ -378,8 +378,12 @@ QRect ChartWidget::LegendRect() const {
 
 void ChartWidget::paintEvent(QPaintEvent* event) {
   QCustomPlot::paintEvent(event);
-  // The frame around the chart: half a millimetre wide on a 4 px/mm screen.
   QPainter painter(this);
+  DrawFrame(painter);
+}
+
+void ChartWidget::DrawFrame(QPainter& painter) const {
+  // Half a millimetre wide on a 4 px/mm screen.
   const Rgb& c = kChartFrameColour;
   QPen pen(QColor(c.red, c.green, c.blue), ChartFrameWidth(kScreenPixelsPerMm),
            Qt::SolidLine);

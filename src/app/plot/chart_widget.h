@@ -41,6 +41,9 @@ class ChartWidget : public QCustomPlot {
   // The legend's rectangle in the chart's pixels while it is shown.
   QRect LegendRect() const;
   bool LegendOutsidePlot() const { return legend_outside_; }
+  // Draws the frame around the plot, which lies outside the library's own
+  // drawing; every picture of the chart adds it.
+  void DrawFrame(QPainter& painter) const;
 
  signals:
   // Mouse position in chart coordinates, for the status bar.

@@ -5,6 +5,7 @@
 #include "app/dialogs/dlg_title.h"
 #include "app/dialogs/dlg_unit.h"
 #include "app/plot/chart_export.h"
+#include "app/plot/emf_paint_device.h"
 #include "app/shell/zelw_app.h"
 #include "core/document/data_file.h"
 #include "core/document/save_kind.h"
@@ -18,9 +19,6 @@ constexpr const char* kSaveFilter =
 constexpr const char* kNoPointsQuestion =
     "The document holds no saved points; saving will write curves without "
     "data. Save anyway?";
-constexpr const char* kNoMetafile =
-    "Saving the chart as an enhanced metafile is not available yet; nothing "
-    "was saved. Choose BMP or JPEG for an image.";
 
 }  // namespace
 
@@ -127,7 +125,7 @@ void CChildFrame::OnFileSave() {
         messages.Show(kFileNotFoundMessage);
       break;
     case SaveKind::kMetafile:
-      messages.Show(kNoMetafile);
+      if (!SaveChartEmf(*view_, path)) messages.Show(kFileNotFoundMessage);
       break;
   }
 }

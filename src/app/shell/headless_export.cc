@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "app/plot/chart_widget.h"
+#include "app/plot/emf_paint_device.h"
 #include "core/document/curve_document.h"
 #include "core/document/data_file.h"
 
@@ -18,7 +19,8 @@ namespace zel::app {
 namespace {
 
 constexpr char kPrefix[] = "zel --export: ";
-constexpr char kUsage[] = "usage: zel --export IN.zel OUT.png [--size WxH]";
+constexpr char kUsage[] =
+    "usage: zel --export IN.zel OUT.{png,emf} [--size WxH]";
 constexpr int kMinSide = 64;
 constexpr int kMaxSide = 8000;
 
@@ -77,6 +79,7 @@ QSize ParseSize(const QString& text) {
 const std::vector<ExportFormat>& ExportFormats() {
   static const std::vector<ExportFormat> formats = {
       {"png", WritePng},
+      {"emf", SaveChartEmf},
   };
   return formats;
 }

@@ -1,4 +1,4 @@
-// `zel --export IN.zel OUT.png [--size WxH]`: draws a saved document with
+// `zel --export IN.zel OUT.{png,emf} [--size WxH]`: draws a saved document with
 // the window's own chart drawing and writes the picture, without opening a
 // window or needing a display. The picture's format follows OUT's suffix.
 #ifndef ZEL_APP_SHELL_HEADLESS_EXPORT_H_
