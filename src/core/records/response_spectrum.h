@@ -74,11 +74,6 @@ int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
                             double time_step, MessageSink& messages,
                             const SpectrumRun& run = {});
 
-// The same for the record the document already holds (StoreRecord), read
-// with its time step.
-int ComputeResponseSpectrum(CZELwDoc& doc, MessageSink& messages,
-                            const SpectrumProgress& progress = {});
-
 }  // namespace zel
 
 #endif  // ZEL_CORE_RECORDS_RESPONSE_SPECTRUM_H_
