@@ -121,20 +121,14 @@ ReadResult ReadEsm(TextLines& lines, RecordBuilder& out) {
   }
 
   const double factor = GravitiesPer(unit);
-  std::vector<std::string_view> fields;
   int last = data_line;
   bool more = in_data;
   while (more) {
-    SplitFields(lines.text(), " \t", fields);
-    for (std::string_view field : fields) {
-      double value;
-      if (!ParseNumber(field, value)) {
-        return out.Refuse("Value is not a number", lines.number(),
-                          ": \"" + std::string(field) + "\".");
-      }
-      if (!out.Add(value * factor, lines.number())) return ReadResult::kRefused;
+    std::size_t taken = 0;
+    if (!out.AddValuesOf(lines.text(), lines.number(), factor, taken)) {
+      return ReadResult::kRefused;
     }
-    if (!fields.empty()) last = lines.number();
+    if (taken > 0) last = lines.number();
     more = lines.Next();
   }
   problem = out.LineProblem(lines);

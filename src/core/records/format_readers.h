@@ -60,6 +60,11 @@ class RecordBuilder {
   // A sample at its own time in seconds (two-column text); the times must
   // increase evenly.
   bool AddTimed(double seconds, double g, int line);
+  // The numbers of a data line separated by blanks or tabs, each times
+  // `factor` giving g, as samples; `taken` tells how many. False after the
+  // refusal of a field that is not a number.
+  bool AddValuesOf(std::string_view line, int number, double factor,
+                   std::size_t& taken);
   // Samples offered so far, kept or not.
   std::size_t count() const { return count_; }
 
@@ -76,6 +81,7 @@ class RecordBuilder {
   MessageSink& messages_;
   Record record_;
   std::vector<std::string> channels_;
+  std::vector<std::string_view> fields_;  // of the line AddValuesOf reads
   double step_ = 0.0;  // scaled, of an evenly sampled record
   bool timed_ = false;
   double first_step_ = 0.0;  // scaled, of a record with its own times

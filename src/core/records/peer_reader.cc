@@ -87,19 +87,13 @@ ReadResult ReadPeer(TextLines& lines, RecordBuilder& out) {
   if (!out.SetTimeStep(dt, 4)) return ReadResult::kRefused;
 
   const double factor = GravitiesPer(unit);
-  std::vector<std::string_view> fields;
   int last = 4;
   while (lines.Next()) {
-    SplitFields(lines.text(), " \t", fields);
-    for (std::string_view field : fields) {
-      double value;
-      if (!ParseNumber(field, value)) {
-        return out.Refuse("Value is not a number", lines.number(),
-                          ": \"" + std::string(field) + "\".");
-      }
-      if (!out.Add(value * factor, lines.number())) return ReadResult::kRefused;
+    std::size_t taken = 0;
+    if (!out.AddValuesOf(lines.text(), lines.number(), factor, taken)) {
+      return ReadResult::kRefused;
     }
-    if (!fields.empty()) last = lines.number();
+    if (taken > 0) last = lines.number();
   }
   const ReadResult problem = out.LineProblem(lines);
   if (problem != ReadResult::kRead) return problem;

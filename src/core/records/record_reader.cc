@@ -201,6 +201,23 @@ bool RecordBuilder::AddTimed(double seconds, double g, int line) {
   return AddValue(g, line);
 }
 
+bool RecordBuilder::AddValuesOf(std::string_view line, int number,
+                                double factor, std::size_t& taken) {
+  SplitFields(line, " \t", fields_);
+  taken = 0;
+  for (std::string_view field : fields_) {
+    double value;
+    if (!ParseNumber(field, value)) {
+      Refuse("Value is not a number", number,
+             ": \"" + std::string(field) + "\".");
+      return false;
+    }
+    if (!Add(value * factor, number)) return false;
+    ++taken;
+  }
+  return true;
+}
+
 ReadResult RecordBuilder::Finish(int line) {
   const int channels =
       channels_.empty() ? 1 : static_cast<int>(channels_.size());
