@@ -15,17 +15,20 @@
 #include "cli/number_text.h"
 #include "cli/output_file.h"
 #include "cli/record_batch.h"
+#include "cli/stderr_messages.h"
 #include "core/document/c_format.h"
 #include "core/document/curve_document.h"
 #include "core/document/input_file.h"
 #include "core/document/replacing_file.h"
 #include "core/records/chart_setup.h"
 #include "core/records/frequency_switch.h"
+#include "core/records/record.h"
 #include "core/records/record_catalog.h"
 #include "core/records/record_choice.h"
 #include "core/records/record_curve.h"
 #include "core/records/record_folder.h"
 #include "core/records/record_reader.h"
+#include "core/records/record_writer.h"
 #include "core/records/response_spectrum.h"
 #include "core/records/spectrum_choices.h"
 
@@ -40,6 +43,11 @@ struct RecordOptions {
   std::string time_scale = "1.0";
   std::string output;
   bool csv = false;  // a folder of outputs holds CSV files
+  // How to read a file that needs choices: several channels, or plain text.
+  int channel = 1;
+  std::string time_step;  // --dt, seconds
+  std::string unit = "g";
+  std::string columns;  // "TIME,ACCEL", 1-based, 0 for no time column
 };
 
 [[noreturn]] void Fail(const std::string& text) {
@@ -64,6 +72,42 @@ double NumberIn(const std::string& text, const char* option,
          CFormat(" must be %g to %g", range.min, range.max));
   }
   return value;
+}
+
+// The choices of --channel, --dt, --unit and --columns.
+ImportChoices ChoicesOf(const RecordOptions& options) {
+  ImportChoices choices;
+  choices.channel = options.channel;
+  if (!options.time_step.empty()) {
+    choices.time_step = Number(options.time_step, "--dt");
+    if (!(choices.time_step > 0.0) || !std::isfinite(choices.time_step)) {
+      Fail("--dt must be above 0");
+    }
+  }
+  if (!PlainUnitOfWord(options.unit, choices.unit)) {
+    Fail("--unit must be g, gal, cm/s2, m/s2 or mm/s2");
+  }
+  if (!options.columns.empty()) {
+    const std::size_t comma = options.columns.find(',');
+    const std::string time = options.columns.substr(0, comma);
+    const std::string accel =
+        comma == std::string::npos ? "" : options.columns.substr(comma + 1);
+    const auto column = [](const std::string& text, int low) {
+      int value = -1;
+      const auto [stop, error] =
+          std::from_chars(text.data(), text.data() + text.size(), value);
+      if (text.empty() || error != std::errc() ||
+          stop != text.data() + text.size() || value < low) {
+        Fail(
+            "--columns takes TIME,ACCEL: column numbers from 1, 0 for no "
+            "time column");
+      }
+      return value;
+    };
+    choices.time_column = column(time, 0);
+    choices.accel_column = column(accel, 1);
+  }
+  return choices;
 }
 
 // Whether `id` is a whole number, which names a catalog entry by position.
@@ -136,7 +180,28 @@ bool ReadRecordDocument(const std::string& id, const RecordOptions& options,
   InputFile file = OpenRecord(id, options, messages, name);
   if (!file.is_open()) return false;
   PrepareRecordDocument(doc, amplitude, time, name);
-  return ShowRecordCurve(doc, std::move(file), messages) == 1;
+  return ShowRecordCurve(doc, std::move(file), messages, ChoicesOf(options)) ==
+         1;
+}
+
+// The options that say how a record is read.
+void AddReadingOptions(CLI::App* command, RecordOptions& options) {
+  command->add_option("--amp-scale", options.amplitude_scale,
+                      "Amplitude scale (default 1.0)");
+  command->add_option("--time-scale", options.time_scale,
+                      "Time scale (default 1.0)");
+  command->add_option("--base", options.base,
+                      "Folder holding dbase/ (default: the program's folder, "
+                      "else the installed data folder)");
+  command->add_option("--channel", options.channel,
+                      "Channel of a file holding several, from 1 (default 1)");
+  command->add_option("--dt", options.time_step,
+                      "Plain text without times: the time step, s");
+  command->add_option("--unit", options.unit,
+                      "Plain text: g, gal, cm/s2, m/s2 or mm/s2 (default g)");
+  command->add_option("--columns", options.columns,
+                      "Plain text: TIME,ACCEL column numbers from 1, 0 for "
+                      "no time column (default: the first two)");
 }
 
 void AddRecordOptions(CLI::App* command, RecordOptions& options) {
@@ -145,13 +210,7 @@ void AddRecordOptions(CLI::App* command, RecordOptions& options) {
                    "Catalog numbers (1-53) or titles, record files, or "
                    "folders of record files")
       ->required();
-  command->add_option("--amp-scale", options.amplitude_scale,
-                      "Amplitude scale (default 1.0)");
-  command->add_option("--time-scale", options.time_scale,
-                      "Time scale (default 1.0)");
-  command->add_option("--base", options.base,
-                      "Folder holding dbase/ (default: the program's folder, "
-                      "else the installed data folder)");
+  AddReadingOptions(command, options);
   command
       ->add_option("-o,--output", options.output,
                    "Output file: .csv for columns, else a .zel data file; "
@@ -341,10 +400,12 @@ void AddSpectrum(CLI::App& app) {
           CZELwDoc doc;
           PrepareSpectrumDocument(doc, s);
           if (ReadRecordFile(doc, std::move(file), messages,
-                             TimeStepUse::kNeeded) != 1) {
+                             TimeStepUse::kNeeded,
+                             ChoicesOf(options->record)) != 1) {
             messages.Show(kRecordReadFailedMessage);
             return;
           }
+          s.record_name = doc.record_name;  // with the file's description
           SpectrumRun run;
           run.kernel.threads = threads;
           if (ComputeResponseSpectrum(doc, s, doc.record_samples,
@@ -374,6 +435,48 @@ void AddSpectrum(CLI::App& app) {
   });
 }
 
+// `convert-record IN OUT.dbs`: a record of any format in the catalog's .dbs
+// layout, for dbase/.
+void AddConvertRecord(CLI::App& app) {
+  struct ConvertOptions {
+    RecordOptions record;
+    std::string input;
+  };
+  auto options = std::make_shared<ConvertOptions>();
+  CLI::App* command = app.add_subcommand(
+      "convert-record",
+      "Write a record of any format ZEL reads in the catalog's .dbs layout");
+  command->add_option("record", options->input, "The record file to convert")
+      ->required();
+  command
+      ->add_option("output", options->record.output, "The .dbs file to write")
+      ->required();
+  AddReadingOptions(command, options->record);
+  command->callback([options] {
+    RecordReading reading;
+    reading.scales.amplitude = NumberIn(options->record.amplitude_scale,
+                                        "--amp-scale", kRecordAmplitudeRange);
+    reading.scales.time = Number(options->record.time_scale, "--time-scale");
+    reading.choices = ChoicesOf(options->record);
+    StderrMessages messages;
+    std::string name;
+    InputFile file =
+        OpenRecord(options->input, options->record, messages, name);
+    if (!file.is_open()) throw CLI::RuntimeError(1);
+    Record record;
+    if (ReadRecord(std::move(file), reading, record, messages) !=
+        ReadResult::kRead) {
+      messages.Show(kRecordReadFailedMessage);
+      throw CLI::RuntimeError(1);
+    }
+    if (!WriteDbsRecord(record, options->record.output, messages)) {
+      throw CLI::RuntimeError(1);
+    }
+    std::cout << CFormat("%zu samples, dt = %g s\n", record.samples.size(),
+                         record.time_step);
+  });
+}
+
 }  // namespace
 
 void AddRecordCommands(CLI::App& app) {
@@ -384,6 +487,7 @@ void AddRecordCommands(CLI::App& app) {
   AddHistoryCommand(
       app, "fft", "Write the normalised Fourier amplitude spectrum of records",
       true);
+  AddConvertRecord(app);
 }
 
 }  // namespace zel::cli

@@ -12,11 +12,13 @@
 #include "app/dialogs/dlg_progress_bar.h"
 #include "app/dialogs/earth_dlg.h"
 #include "app/dialogs/eq_rec_dlg.h"
+#include "app/dialogs/record_import_dlg.h"
 #include "app/shell/command_table.h"
 #include "app_fixture.h"
 #include "core/document/test_files.h"
 #include "core/records/chart_setup.h"
 #include "core/records/record_catalog.h"
+#include "core/records/record_choice.h"
 #include "core/records/record_fixtures.h"
 #include "core/records/spectrum_choices.h"
 
@@ -24,6 +26,7 @@ namespace zel::app::testing {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 
 constexpr const char* kElCentro = "1940, El Centro Site, 270 Deg";
 
@@ -252,8 +255,7 @@ TEST_F(RecordDialogsTest, ImportTakesTheChosenFile) {
     EXPECT_EQ(c.caption_box()->toPlainText(), "User EQ : kobe_ns.dbs");
   });
   frame().OnCommand(ID_GENERATE_EQ_RECORD);
-  EXPECT_EQ(open_filters_, QStringList({"ZEL dbase file *.dbs|*.dbs||",
-                                        "ZEL dbase file *.dbs|*.dbs||"}));
+  EXPECT_EQ(open_filters_, QStringList({kRecordFileFilter, kRecordFileFilter}));
   ASSERT_EQ(WindowCount(), 1);
   EXPECT_EQ(app_->follow_up().record_path, user);
   EXPECT_EQ(ContextLabel(child()->GetDocument()),
@@ -382,6 +384,80 @@ TEST_F(RecordDialogsTest, ResponseSpectraEqualTheCoreComputation) {
               s.damping_count);
     EXPECT_EQ(positions.back(), run.steps - 1);
   }
+}
+
+TEST_F(RecordDialogsTest, ImportStepAndWhatAFailedReadLeaves) {
+  // Two CSMIP channels: the import step offers both and previews each.
+  const std::string csmip = (dir_ / "two.v2").string();
+  zel::testing::WriteAll(
+      csmip,
+      "Corrected accelerogram\nTest Earthquake of 2004\nStation 1 Test Site\n"
+      "Chan  1:   90 Deg\n"
+      "     4 points of accel data equally spaced at  .010 sec, in g. "
+      "(8f10.6)\n"
+      "  0.100000 -0.20000  0.000000  0.100000\n"
+      "Corrected accelerogram\nTest Earthquake of 2004\nStation 1 Test Site\n"
+      "Chan  2:  360 Deg\n"
+      "     3 points of accel data equally spaced at  .020 sec, in g. "
+      "(8f10.6)\n"
+      "  0.300000 -0.40000  0.000000\n");
+  EQ_REC_DLG record(*app_);
+  next_open_ = QString::fromStdString(csmip);
+  answer_ = [](QDialog& d) {
+    auto& step = dynamic_cast<DLG_RecordImport&>(d);
+    EXPECT_EQ(step.channel_list()->count(), 2);
+    EXPECT_EQ(step.time_column(), nullptr);  // not plain text
+    EXPECT_THAT(step.preview()->toPlainText().toStdString(),
+                HasSubstr("4 samples, dt = 0.01 sec, peak 0.2000 g"));
+    step.channel_list()->setCurrentIndex(1);
+    EXPECT_THAT(step.preview()->toPlainText().toStdString(),
+                HasSubstr("3 samples, dt = 0.02 sec, peak 0.4000 g"));
+    step.accept();
+    return step.result();
+  };
+  QTest::mouseClick(record.chooser().import_button(), Qt::LeftButton);
+  EXPECT_EQ(record.chooser().choices().channel, 2);
+  record.accept();
+  ASSERT_EQ(WindowCount(), 1);
+  const CZELwDoc& doc = child()->GetDocument();
+  EXPECT_EQ(doc.subtitle,
+            "User EQ : two.v2 (Test Earthquake of 2004, Station 1 Test Site, "
+            "Chan 2: 360 Deg)");
+  EXPECT_EQ(ContextLabel(doc), "Max =   0.4000(g) at  0.020 sec");
+
+  // A .dbs file in the wrong format: the document is made and stays empty.
+  const std::string wrong = (dir_ / "wrong.dbs").string();
+  zel::testing::WriteAll(wrong, "no commas here\n");
+  answer_ = nullptr;
+  EarthDlg spectra(*app_);
+  next_open_ = QString::fromStdString(wrong);
+  QTest::mouseClick(spectra.chooser().import_button(), Qt::LeftButton);
+  messages_->Clear();
+  spectra.accept();
+  EXPECT_THAT(messages(), ElementsAre("Error : Wrong Format!",
+                                      "an Error occurred while reading data!"));
+  EXPECT_EQ(spectra.result(), QDialog::Accepted);
+  ASSERT_EQ(WindowCount(), 2);
+  EXPECT_EQ(child()->GetDocument().StoredPoints(0), 0u);
+
+  // A record in another format that cannot be used: no document, the dialog
+  // stays open.
+  const std::string peer = (dir_ / "zero.AT2").string();
+  zel::testing::WriteAll(peer,
+                         "PEER\nTest, A, 0\nACCELERATION IN G\n"
+                         "NPTS= 2, DT= 0.0 SEC\n 0.1 0.2\n");
+  EQ_REC_DLG refused(*app_);
+  next_open_ = QString::fromStdString(peer);
+  QTest::mouseClick(refused.chooser().import_button(), Qt::LeftButton);
+  messages_->Clear();
+  refused.accept();
+  EXPECT_THAT(
+      messages(),
+      ElementsAre(::testing::StartsWith("Error : Time step must be above 0! " +
+                                        peer + ", line 4"),
+                  "an Error occurred while reading data!"));
+  EXPECT_EQ(refused.result(), QDialog::Rejected);
+  EXPECT_EQ(WindowCount(), 2);
 }
 
 }  // namespace

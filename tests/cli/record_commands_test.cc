@@ -240,5 +240,37 @@ TEST(RecordCommandsTest, BatchesSkipABadRecordAndFinishTheOthers) {
   EXPECT_THAT(r.out, HasSubstr("a.zel is the output of "));
 }
 
+TEST(RecordCommandsTest, OtherFormatsTheirChoicesAndConvertRecord) {
+  TempDir dir;
+  // A semicolon table in gal; the second column by default, the third by
+  // --columns, and one column with --dt.
+  WriteAll(dir / "t.csv",
+           "time;NS;EW\n0;98.0665;1\n0.01;-196.133;2\n0.02;0;3\n");
+  const std::string table = Quoted(dir / "t.csv");
+  auto r = RunTo(dir, "record " + table + " --unit gal", "ns.csv");
+  EXPECT_EQ(r.status, 0) << r.out;
+  EXPECT_EQ(r.out, "Max =   0.2000(g) at  0.010 sec\n");
+  r = RunTo(dir, "record " + table + " --columns 1,3", "ew.csv");
+  EXPECT_EQ(r.out, "Max =   3.0000(g) at  0.020 sec\n");
+  r = RunTo(dir, "record " + table + " --columns 0,3 --dt 0.5", "dt.csv");
+  EXPECT_EQ(r.out, "Max =   3.0000(g) at  1.000 sec\n");
+  for (const char* bad : {"--unit furlong", "--columns 1", "--columns 1,x",
+                          "--dt 0", "--columns 1,4", "--channel 2"}) {
+    r = RunTo(dir, "record " + table + " " + bad, "bad.csv");
+    EXPECT_EQ(r.status, 1) << bad;
+    EXPECT_FALSE(r.out.empty()) << bad;
+  }
+
+  // convert-record writes a .dbs file that reads back the same.
+  r = RunCli("convert-record " + table + " --unit gal " +
+             Quoted(dir / "t.dbs"));
+  EXPECT_EQ(r.status, 0) << r.out;
+  EXPECT_EQ(r.out, "3 samples, dt = 0.01 s\n");
+  EXPECT_THAT(ReadAll(dir / "t.dbs"),
+              HasSubstr("\n0, 0.1\n0.01, -0.2\n0.02, 0\n"));
+  r = RunTo(dir, "record " + Quoted(dir / "t.dbs"), "back.csv");
+  EXPECT_EQ(r.out, "Max =   0.2000(g) at  0.010 sec\n");
+}
+
 }  // namespace
 }  // namespace zel

@@ -12,6 +12,7 @@
 #include "core/document/curve_document.h"
 #include "core/document/messages.h"
 
+class QDialog;
 class QWidget;
 
 namespace zel::app {
@@ -41,6 +42,8 @@ class DialogHost {
   // The folder whose "dbase/" holds the catalog's record files.
   virtual std::string ProgramFolder() const = 0;
   virtual FollowUpValues& follow_up() = 0;
+  // Runs a dialog a dialog opens (the import step) modally.
+  virtual int RunDialog(QDialog& dialog) = 0;
 
  protected:
   ~DialogHost() = default;

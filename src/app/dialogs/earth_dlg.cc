@@ -157,10 +157,15 @@ void EarthDlg::accept() {
   const std::string path = chooser_->ResolveRecordPath();
   follow_up.record_path = path;
   if (settings.kind == kCombinedDVA) follow_up.tripartite_follows = true;
-  InputFile file = OpenCheckedRecord(
-      path, [&](CZELwDoc& doc) { PrepareSpectrumDocument(doc, settings); },
-      TimeStepUse::kNeeded, messages);
-  if (!file.is_open()) {
+  RecordReading reading;
+  reading.scales = {settings.time_scale, settings.amplitude_scale};
+  reading.choices = chooser_->choices();
+  reading.use = TimeStepUse::kNeeded;
+  Record record;
+  MessageLog held;
+  const ReadResult result =
+      ReadChosenRecord(path, reading, record, held, messages);
+  if (result == ReadResult::kRefused) {
     follow_up.tripartite_follows = false;  // no tripartite chart follows now
     return;
   }
@@ -172,11 +177,12 @@ void EarthDlg::accept() {
     return;
   }
   PrepareSpectrumDocument(*doc, settings);
-  if (ReadRecordFile(*doc, std::move(file), messages, TimeStepUse::kNeeded) ==
-      1) {
-    Compute(*doc, settings);
-  } else {
-    messages.Show(kRecordReadFailedMessage);
+  ShowReadOutcome(result, held, messages);
+  if (result == ReadResult::kRead) {
+    StoreRecord(*doc, record);
+    SpectrumSettings named = settings;
+    named.record_name = doc->record_name;  // with the file's description
+    Compute(*doc, named);
   }
   follow_up.tripartite_follows = false;
   QDialog::accept();

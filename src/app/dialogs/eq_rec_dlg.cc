@@ -34,14 +34,14 @@ void EQ_REC_DLG::accept() {
   follow_up.spectrum_follows = false;
   const std::string path = chooser_->ResolveRecordPath();
   follow_up.record_path = path;
-  InputFile file = OpenCheckedRecord(
-      path,
-      [&](CZELwDoc& doc) {
-        PrepareRecordDocument(doc, amplitude, time_scale,
-                              chooser_->record_name());
-      },
-      TimeStepUse::kNotNeeded, messages);
-  if (!file.is_open()) return;
+  RecordReading reading;
+  reading.scales = {time_scale, amplitude};
+  reading.choices = chooser_->choices();
+  Record record;
+  MessageLog held;
+  const ReadResult result =
+      ReadChosenRecord(path, reading, record, held, messages);
+  if (result == ReadResult::kRefused) return;
 
   CZELwDoc* doc = NewRecordDocument(host_, kNewDocumentRecord);
   if (doc == nullptr) {
@@ -49,7 +49,8 @@ void EQ_REC_DLG::accept() {
     return;
   }
   PrepareRecordDocument(*doc, amplitude, time_scale, chooser_->record_name());
-  ShowRecordCurve(*doc, std::move(file), messages);
+  ShowReadOutcome(result, held, messages);
+  if (result == ReadResult::kRead) ShowRecordCurve(*doc, record);
   QDialog::accept();
 }
 

@@ -5,8 +5,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRegularExpressionValidator>
+#include <optional>
 #include <utility>
 
+#include "app/dialogs/record_import_dlg.h"
 #include "core/document/c_format.h"
 #include "core/records/record_catalog.h"
 #include "core/records/record_choice.h"
@@ -107,6 +109,15 @@ void RecordChooser::OnImport() {
   const QString path =
       host_.AskOpenFileName(this, QString::fromLatin1(kRecordFileFilter));
   if (path.isEmpty()) return;
+  ImportChoices choices;
+  const std::optional<RecordLayout> layout =
+      InspectRecordFile(InputFile::Open(QFile::encodeName(path).toStdString()));
+  if (layout && layout->NeedsImportStep()) {
+    DLG_RecordImport step(QFile::encodeName(path).toStdString(), *layout, this);
+    if (host_.RunDialog(step) != QDialog::Accepted) return;
+    choices = step.choices();
+  }
+  choices_ = choices;
   record_path_ = QFile::encodeName(path).toStdString();
   imported_ = true;
   // The list keeps the imported record for the rest of the dialog's life.
@@ -128,24 +139,26 @@ std::string RecordChooser::ResolveRecordPath() {
   return record_path_;
 }
 
-InputFile OpenCheckedRecord(const std::string& path,
-                            const std::function<void(CZELwDoc&)>& prepare,
-                            TimeStepUse use, MessageSink& messages) {
+ReadResult ReadChosenRecord(const std::string& path,
+                            const RecordReading& reading, Record& record,
+                            MessageLog& held, MessageSink& messages) {
   InputFile file = InputFile::Open(path);
   if (!file.is_open()) {
     messages.ShowFileError(path, file.error());
-    return file;
+    return ReadResult::kRefused;
   }
-  CZELwDoc scratch;
-  prepare(scratch);
-  // The generator's own read shows the warnings of a good record.
-  MessageLog held;
-  if (ReadRecordFile(scratch, std::move(file), held, use) != 1) {
+  const ReadResult result = ReadRecord(std::move(file), reading, record, held);
+  if (result == ReadResult::kRefused) {
     for (const std::string& text : held.texts()) messages.Show(text);
     messages.Show(kRecordReadFailedMessage);
-    return InputFile();
   }
-  return InputFile::Open(path);
+  return result;
+}
+
+void ShowReadOutcome(ReadResult result, const MessageLog& held,
+                     MessageSink& messages) {
+  for (const std::string& text : held.texts()) messages.Show(text);
+  if (result != ReadResult::kRead) messages.Show(kRecordReadFailedMessage);
 }
 
 CZELwDoc* NewRecordDocument(DialogHost& host, int mode) {

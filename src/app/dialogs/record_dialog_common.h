@@ -67,9 +67,13 @@ class RecordChooser : public QWidget {
   const std::string& caption_text() const { return caption_text_; }
   bool imported() const { return imported_; }
   const std::string& record_path() const { return record_path_; }
+  // How to read the imported file (channel, columns, step, unit), as its
+  // import step left them.
+  const ImportChoices& choices() const { return choices_; }
 
-  // Import: asks for a record file; on OK it becomes the record for the
-  // rest of the dialog's life.
+  // Import: asks for a record file and, when it holds several channels or
+  // columns of text, for the import step's choices; on OK it becomes the
+  // record for the rest of the dialog's life.
   void OnImport();
   // The record file to read: the imported one, or the catalog file of the
   // selected title in the program's "dbase/" folder.
@@ -89,17 +93,23 @@ class RecordChooser : public QWidget {
   std::string caption_text_;
   bool imported_ = false;
   std::string record_path_;
+  ImportChoices choices_;
 };
 
-// Opens the record file and reads it once as the generator will, into a
-// scratch document that `prepare` sets up as the new one will be. A file
-// that does not open ("ERROR! File Not Found!") or a record the reader
-// refuses (its message, then "an Error occurred while reading data!") gives
-// a closed file: no document is to be made and the dialog stays open.
-// Otherwise the file, opened afresh, for the generator to read.
-InputFile OpenCheckedRecord(const std::string& path,
-                            const std::function<void(CZELwDoc&)>& prepare,
-                            TimeStepUse use, MessageSink& messages);
+// Reads the record file once, as the generator will use it. kRefused: the
+// file did not open ("ERROR! File Not Found!") or the reader refused the
+// record (its message, then "an Error occurred while reading data!"); no
+// document is to be made and the dialog stays open. kFailed: a .dbs file
+// in the wrong format or without data; kRead: `record` holds it. Either
+// way a document follows, and ShowReadOutcome tells what the read said.
+ReadResult ReadChosenRecord(const std::string& path,
+                            const RecordReading& reading, Record& record,
+                            MessageLog& held, MessageSink& messages);
+
+// Shows the messages held while reading, and after a failed read "an Error
+// occurred while reading data!": the new document stays empty.
+void ShowReadOutcome(ReadResult result, const MessageLog& held,
+                     MessageSink& messages);
 
 // File New under `mode`: the new document, or nullptr after "Document
 // Identification failed!".

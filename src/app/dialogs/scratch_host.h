@@ -30,6 +30,7 @@ class ScratchHost : public DialogHost {
   }
   std::string ProgramFolder() const override { return host_.ProgramFolder(); }
   FollowUpValues& follow_up() override { return host_.follow_up(); }
+  int RunDialog(QDialog& dialog) override { return host_.RunDialog(dialog); }
 
   const CZELwDoc& document() const { return document_; }
 

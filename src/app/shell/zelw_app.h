@@ -36,7 +36,7 @@ class CZELwApp : public QObject, public DialogHost {
   Interaction& ui() { return ui_; }
   MessageSink& messages() override { return *ui_.messages; }
   // Runs a modal dialog through the replaceable dialog runner.
-  int RunDialog(QDialog& dialog) { return ui_.run_dialog(dialog); }
+  int RunDialog(QDialog& dialog) override { return ui_.run_dialog(dialog); }
 
   // File New: sets the new-document mode, makes an empty document in a new
   // child window and makes it active. Returns the new document.

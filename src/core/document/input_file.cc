@@ -18,6 +18,8 @@ InputFile::InputFile(InputFile&& other) noexcept
       in_memory_(std::exchange(other.in_memory_, false)),
       bytes_(std::move(other.bytes_)),
       offset_(other.offset_),
+      put_back_(std::move(other.put_back_)),
+      put_back_offset_(other.put_back_offset_),
       name_(std::move(other.name_)),
       error_(other.error_) {}
 
@@ -28,6 +30,8 @@ InputFile& InputFile::operator=(InputFile&& other) noexcept {
     in_memory_ = std::exchange(other.in_memory_, false);
     bytes_ = std::move(other.bytes_);
     offset_ = other.offset_;
+    put_back_ = std::move(other.put_back_);
+    put_back_offset_ = other.put_back_offset_;
     name_ = std::move(other.name_);
     error_ = other.error_;
   }
@@ -66,7 +70,19 @@ InputFile InputFile::FromBytes(std::string bytes, std::string name) {
   return file;
 }
 
+void InputFile::PutBack(std::string bytes) {
+  bytes.append(put_back_, put_back_offset_);
+  put_back_ = std::move(bytes);
+  put_back_offset_ = 0;
+}
+
 std::size_t InputFile::Read(char* buffer, std::size_t size) {
+  if (put_back_offset_ < put_back_.size()) {
+    const std::size_t n = std::min(size, put_back_.size() - put_back_offset_);
+    std::memcpy(buffer, put_back_.data() + put_back_offset_, n);
+    put_back_offset_ += n;
+    return n;
+  }
   if (in_memory_) {
     const std::size_t n = std::min(size, bytes_.size() - offset_);
     std::memcpy(buffer, bytes_.data() + offset_, n);

@@ -31,6 +31,9 @@ class InputFile {
   // Reads up to `size` bytes into `buffer`; 0 at the end of the file or
   // after a read error.
   std::size_t Read(char* buffer, std::size_t size);
+  // Makes `bytes` the next ones read, ahead of the rest of the file: a
+  // reader that looked at the beginning of a file hands it on unread.
+  void PutBack(std::string bytes);
 
  private:
   void Close();
@@ -39,6 +42,8 @@ class InputFile {
   bool in_memory_ = false;
   std::string bytes_;
   std::size_t offset_ = 0;
+  std::string put_back_;
+  std::size_t put_back_offset_ = 0;
   std::string name_;
   int error_ = 0;
 };

@@ -9,8 +9,19 @@
 
 namespace zel {
 
-// The file-open filter of the Import button.
-inline constexpr const char* kRecordFileFilter = "ZEL dbase file *.dbs|*.dbs||";
+// The file-open filter of the Import button: the catalog's own files
+// first, then the formats the data centres publish (told apart by content,
+// so the patterns only narrow the list), then every file.
+inline constexpr const char* kRecordFileFilter =
+    "ZEL dbase file *.dbs|*.dbs|"
+    "PEER NGA record (*.AT2 *.at2)|*.AT2;*.at2|"
+    "K-NET/KiK-net record (*.NS *.EW *.UD *.NS1 *.EW1 *.UD1 *.NS2 *.EW2 "
+    "*.UD2)|*.NS;*.EW;*.UD;*.NS1;*.EW1;*.UD1;*.NS2;*.EW2;*.UD2|"
+    "ESM/ITACA record (*.ASC *.asc *.txt)|*.ASC;*.asc;*.txt|"
+    "COSMOS or CSMIP record (*.V0 *.V1 *.V2 *.v0 *.v1 *.v2 *.smc)|"
+    "*.V0;*.V1;*.V2;*.v0;*.v1;*.v2;*.smc|"
+    "Text columns (*.txt *.csv *.dat)|*.txt;*.csv;*.dat|"
+    "All files (*)|*||";
 // The record list's text once a file was imported.
 inline constexpr const char* kImportedListText = "User-imported Data";
 

@@ -32,13 +32,20 @@ RecordPeak StoreTimeHistory(CZELwDoc& doc) {
   return peak;
 }
 
-int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages) {
-  if (ReadRecordFile(doc, std::move(file), messages) != 1) {
+int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages,
+                    const ImportChoices& choices) {
+  if (ReadRecordFile(doc, std::move(file), messages, TimeStepUse::kNotNeeded,
+                     choices) != 1) {
     messages.Show(kRecordReadFailedMessage);
     return 0;
   }
   ShowRecordSamples(doc);
   return 1;
+}
+
+void ShowRecordCurve(CZELwDoc& doc, const Record& record) {
+  StoreRecord(doc, record);
+  ShowRecordSamples(doc);
 }
 
 void ShowRecordSamples(CZELwDoc& doc) {

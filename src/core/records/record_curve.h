@@ -7,6 +7,7 @@
 #include "core/document/curve_document.h"
 #include "core/document/input_file.h"
 #include "core/document/messages.h"
+#include "core/records/record.h"
 
 namespace zel {
 
@@ -19,7 +20,12 @@ void PrepareRecordDocument(CZELwDoc& doc, double amplitude_scale,
 // titled and labelled with its peak. Returns 1 on success; on failure shows
 // "an Error occurred while reading data!" after the reader's own message,
 // leaves the curves empty and returns 0.
-int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages);
+int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages,
+                    const ImportChoices& choices = {});
+
+// Makes `record` the document's record (StoreRecord) and its first curve,
+// titled and labelled with its peak.
+void ShowRecordCurve(CZELwDoc& doc, const Record& record);
 
 // Makes the record already in the document its first curve, as
 // ShowRecordCurve does after reading.

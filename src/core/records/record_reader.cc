@@ -2,10 +2,11 @@
 
 #include <cmath>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "core/document/c_format.h"
-#include "core/document/tokenizer.h"
+#include "core/records/format_readers.h"
+#include "core/records/record_detect.h"
 
 namespace zel {
 
@@ -15,127 +16,328 @@ const char* const kRecordCutMessage =
 
 namespace {
 
-// One pass over a record file.
-class RecordReader {
- public:
-  RecordReader(CZELwDoc& doc, InputFile& file, MessageSink& messages)
-      : doc_(doc), file_(file), tokens_(file), messages_(messages) {}
-
-  int Read(TimeStepUse use);
-
- private:
-  // Reads a token; false (after the message) when the file is not text or
-  // the token is too long.
-  bool Next(int& status);
-  // Shows "Error : <what>! <file>, line <line><detail>" and returns 0.
-  int Refuse(const char* what, int line, const std::string& detail = "") {
-    messages_.Show(CFormat("Error : %s! %s, line %d%s", what,
-                           file_.name().c_str(), line, detail.c_str()));
-    return 0;
-  }
-
-  CZELwDoc& doc_;
-  InputFile& file_;
-  Tokenizer tokens_;
-  MessageSink& messages_;
-  std::string token_;
-  bool refused_ = false;
-};
-
-bool RecordReader::Next(int& status) {
-  status = tokens_.ReadToken(token_);
-  if (tokens_.nul_line() != 0) {
-    Refuse("Not a text file", tokens_.nul_line(),
-           " holds a NUL byte (UTF-16 or binary?).");
-  } else if (tokens_.too_long()) {
-    Refuse(
-        "Line too long", tokens_.line(),
-        CFormat(": a value may have at most %zu characters.", kMaxTokenLength));
-  } else {
-    return true;
-  }
-  refused_ = true;
-  return false;
+// The file's name without its folder, for the record's name.
+std::string BaseName(const std::string& path) {
+  const std::size_t slash = path.find_last_of("/\\");
+  return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
-int RecordReader::Read(TimeStepUse use) {
-  // Values in g become the document's acceleration unit.
-  const double factor = doc_.results_in_g == 1 ? 1.0 : doc_.gravity;
-  std::vector<RecordSample> samples;
-  // The whole capacity at once: pages are only touched as samples arrive,
-  // and nothing is copied as the record grows.
-  samples.reserve(kRecordCapacity);
-  double time_step = 0.0;
-  bool cut = false;
-  int status;
-  while (Next(status) && status == 1) {
-    if (samples.size() == static_cast<std::size_t>(kRecordCapacity)) {
-      cut = true;
+bool IsDbsName(const std::string& path) {
+  return path.size() >= 4 &&
+         FindNoCase(std::string_view(path).substr(path.size() - 4), ".dbs") ==
+             0;
+}
+
+// Reads the first bytes of `file` for detection, without a UTF-8
+// byte-order mark. False on a read error.
+bool ReadHead(InputFile& file, std::string& head) {
+  head.resize(kDetectionBytes);
+  std::size_t size = 0;
+  while (size < head.size()) {
+    const std::size_t n = file.Read(head.data() + size, head.size() - size);
+    if (n == 0) break;
+    size += n;
+  }
+  head.resize(size);
+  if (head.compare(0, 3, "\xEF\xBB\xBF") == 0) head.erase(0, 3);
+  return file.error() == 0;
+}
+
+ReadResult ReadFormat(RecordFormat format, InputFile& file,
+                      RecordBuilder& out) {
+  if (format == RecordFormat::kDbs) return ReadDbs(file, out);
+  TextLines lines(file);
+  switch (format) {
+    case RecordFormat::kPeer:
+      return ReadPeer(lines, out);
+    case RecordFormat::kKnet:
+      return ReadKnet(lines, out);
+    case RecordFormat::kEsm:
+      return ReadEsm(lines, out);
+    case RecordFormat::kCosmos:
+      return ReadCosmos(lines, out);
+    case RecordFormat::kCsmip:
+      return ReadCsmip(lines, out);
+    default:
+      return ReadPlainText(lines, out);
+  }
+}
+
+// Detects the format of `file` and reads it into `out`; the head read for
+// detection is what `head` then holds.
+ReadResult DetectAndRead(InputFile& file, RecordBuilder& out,
+                         std::string& head) {
+  if (!ReadHead(file, head)) {
+    out.messages().Show("an Error occurred while reading data !");
+    return ReadResult::kFailed;
+  }
+  RecordFormat format = RecordFormat::kDbs;
+  int line = 0;
+  Detection detection = DetectRecordFormat(head, format, line);
+  // A file named .dbs that carries none of the other formats' headers is
+  // read as the catalog's records always were, failures and all.
+  if (IsDbsName(file.name()) && (detection == Detection::kUnknown ||
+                                 (detection == Detection::kKnown &&
+                                  format == RecordFormat::kPlainText))) {
+    detection = Detection::kKnown;
+    format = RecordFormat::kDbs;
+  }
+  switch (detection) {
+    case Detection::kNotText:
+      return out.Refuse("Not a text file", line,
+                        " holds a NUL byte (UTF-16 or binary?).");
+    case Detection::kUnknown:
+      out.messages().Show(UnknownFormatMessage(out.file_name()));
+      return ReadResult::kRefused;
+    case Detection::kKnown:
       break;
-    }
-    const int line = tokens_.line();
-    const double time = AtoF(token_) * doc_.time_scale;
-    if (!std::isfinite(time)) {
-      return Refuse("Time is not a finite number", line, ".");
-    }
-    if (!samples.empty() && !(time > samples.back().time)) {
-      return Refuse("Times must increase", line,
-                    CFormat(": %g s follows %g s.", time, samples.back().time));
-    }
-    samples.push_back({time, 0.0});
-    if (samples.size() == 4) {
-      // Evenly sampled records are assumed: the step of samples 1 and 2.
-      time_step = samples[2].time - samples[1].time;
-      if (!std::isfinite(time_step)) {
-        return Refuse("Time step is not finite", line, ".");
-      }
-    }
-    if (!Next(status)) return 0;
-    if (token_ != ",") {
-      messages_.Show("Error : Wrong Format!");
-      return 0;
-    }
-    if (!Next(status)) return 0;
-    const double value = AtoF(token_) * doc_.amplitude_scale * factor;
-    if (!std::isfinite(value)) {
-      return Refuse("Value is not a finite number", tokens_.line(),
-                    " (once scaled).");
-    }
-    samples.back().value = value;
-    // A value that ends the file still counts: the last line may lack its
-    // line end.
-    if (status != 1) break;
   }
-  if (refused_) return 0;
-  if (file_.error() != 0) {
-    messages_.Show("an Error occurred while reading data !");
-    return 0;
+  out.record().format = format;
+  out.record().name = BaseName(file.name());
+  file.PutBack(head);
+  const ReadResult result = ReadFormat(format, file, out);
+  if (result == ReadResult::kRead && file.error() != 0) {
+    out.messages().Show("an Error occurred while reading data !");
+    return ReadResult::kFailed;
   }
-  if (samples.empty()) {
-    messages_.Show("Error : No Data Found!");
-    return 0;
-  }
-  if (use == TimeStepUse::kNeeded && samples.size() < 4) {
-    return Refuse(
-        "Too few samples", tokens_.line(),
-        CFormat(": %zu; the time step is known from the fourth sample on.",
-                samples.size()));
-  }
-  if (cut) messages_.Show(kRecordCutMessage);
-  doc_.record_samples = std::move(samples);
-  if (doc_.record_samples.size() >= 4) doc_.record_time_step = time_step;
-  return 1;
+  return result;
 }
 
 }  // namespace
 
-int ReadRecordFile(CZELwDoc& doc, InputFile file, MessageSink& messages,
-                   TimeStepUse use) {
+ReadResult RecordBuilder::Refuse(std::string_view what, int line,
+                                 std::string_view detail) {
+  messages_.Show(CFormat("Error : %.*s! %s, line %d%.*s",
+                         static_cast<int>(what.size()), what.data(),
+                         file_name_.c_str(), line,
+                         static_cast<int>(detail.size()), detail.data()));
+  return ReadResult::kRefused;
+}
+
+ReadResult RecordBuilder::LineProblem(const TextLines& lines) {
+  switch (lines.problem()) {
+    case TextLines::Problem::kNul:
+      return Refuse("Not a text file", lines.number(),
+                    " holds a NUL byte (UTF-16 or binary?).");
+    case TextLines::Problem::kTooLong:
+      return Refuse("Line too long", lines.number(),
+                    CFormat(": a line may have at most %zu characters.",
+                            kMaxRecordLineLength));
+    case TextLines::Problem::kNone:
+      break;
+  }
+  return ReadResult::kRead;
+}
+
+bool RecordBuilder::SetTimeStep(double seconds, int line) {
+  if (!(seconds > 0.0) || !std::isfinite(seconds)) {
+    Refuse("Time step must be above 0", line,
+           CFormat(": %g s is given.", seconds));
+    return false;
+  }
+  step_ = seconds * reading_.scales.time;
+  if (!(step_ > 0.0) || !std::isfinite(step_)) {
+    Refuse("Time step must be above 0", line,
+           CFormat(": %g s times the time scale %g gives %g s.", seconds,
+                   reading_.scales.time, step_));
+    return false;
+  }
+  return true;
+}
+
+bool RecordBuilder::AddValue(double g, int line) {
+  const double value = g * reading_.scales.amplitude;
+  if (!std::isfinite(value * kLargestGravity)) {
+    Refuse("Value is not a finite number", line, " (once scaled).");
+    return false;
+  }
+  ++count_;
+  if (count_ <= static_cast<std::size_t>(kRecordCapacity)) {
+    record_.samples.back().value = value;
+  }
+  return true;
+}
+
+bool RecordBuilder::Add(double g, int line) {
+  if (count_ < static_cast<std::size_t>(kRecordCapacity)) {
+    const double time = static_cast<double>(count_) * step_;
+    if (!std::isfinite(time)) {
+      Refuse("Time is not a finite number", line, ".");
+      return false;
+    }
+    record_.samples.push_back({time, 0.0});
+  }
+  return AddValue(g, line);
+}
+
+bool RecordBuilder::AddTimed(double seconds, double g, int line) {
+  timed_ = true;
+  const double time = seconds * reading_.scales.time;
+  if (!std::isfinite(time)) {
+    Refuse("Time is not a finite number", line, ".");
+    return false;
+  }
+  if (count_ > 0) {
+    const double step = time - last_time_;
+    if (!(step > 0.0)) {
+      Refuse("Times must increase", line,
+             CFormat(": %g s follows %g s.", time, last_time_));
+      return false;
+    }
+    if (count_ == 1) first_step_ = step;
+    // Times written with few digits wander a little; a missing or doubled
+    // sample moves them by a whole step.
+    if (std::fabs(step - first_step_) > 0.5 * first_step_) {
+      Refuse(
+          "Times are not evenly spaced", line,
+          CFormat(": a step of %g s after steps of %g s.", step, first_step_));
+      return false;
+    }
+  }
+  last_time_ = time;
+  if (count_ < static_cast<std::size_t>(kRecordCapacity)) {
+    record_.samples.push_back({time, 0.0});
+  }
+  return AddValue(g, line);
+}
+
+bool RecordBuilder::AddValuesOf(std::string_view line, int number,
+                                double factor, std::size_t& taken) {
+  SplitFields(line, " \t", fields_);
+  taken = 0;
+  for (std::string_view field : fields_) {
+    double value;
+    if (!ParseNumber(field, value)) {
+      Refuse("Value is not a number", number,
+             ": \"" + std::string(field) + "\".");
+      return false;
+    }
+    if (!Add(value * factor, number)) return false;
+    ++taken;
+  }
+  return true;
+}
+
+ReadResult RecordBuilder::Finish(int line) {
+  const int channels =
+      channels_.empty() ? 1 : static_cast<int>(channels_.size());
+  const int chosen = reading_.choices.channel;
+  if (chosen < 1 || chosen > channels) {
+    messages_.Show(CFormat("Error : No channel %d! %s holds %d channel%s.",
+                           chosen, file_name_.c_str(), channels,
+                           channels == 1 ? "" : "s"));
+    return ReadResult::kRefused;
+  }
+  if (count_ == 0) {
+    return Refuse("No data found", line, ": the record holds no values.");
+  }
+  std::vector<RecordSample>& samples = record_.samples;
+  if (timed_) {
+    if (samples.size() < 2 && reading_.use == TimeStepUse::kNeeded) {
+      return Refuse("Too few samples", line,
+                    ": 1; the time step is known from the second sample on.");
+    }
+    record_.time_step = samples.size() < 2
+                            ? 0.0
+                            : (samples.back().time - samples.front().time) /
+                                  static_cast<double>(samples.size() - 1);
+  } else {
+    record_.time_step = step_;
+  }
+  if (count_ > static_cast<std::size_t>(kRecordCapacity)) {
+    messages_.Show(kRecordCutMessage);
+  }
+  return ReadResult::kRead;
+}
+
+ReadResult ReadFixedValues(TextLines& lines, RecordBuilder& out,
+                           std::size_t count, const FortranFormat& format,
+                           const std::function<bool(double, int)>& take) {
+  std::size_t read = 0;
+  while (read < count) {
+    if (!lines.Next()) {
+      const ReadResult problem = out.LineProblem(lines);
+      if (problem != ReadResult::kRead) return problem;
+      return out.Refuse("Data end early", lines.number(),
+                        CFormat(": %zu of %zu values.", read, count));
+    }
+    const std::string_view line = lines.text();
+    const std::size_t before = read;
+    for (int k = 0; k < format.per_line && read < count; ++k) {
+      const std::string_view field = FixedField(line, k, format.width);
+      if (Trim(field).empty()) break;
+      double value;
+      if (!ParseNumber(field, value)) {
+        return out.Refuse("Value is not a number", lines.number(),
+                          ": \"" + std::string(Trim(field)) + "\".");
+      }
+      if (!take(value, lines.number())) return ReadResult::kRefused;
+      ++read;
+    }
+    if (read == before) {
+      return out.Refuse("Data end early", lines.number(),
+                        CFormat(": %zu of %zu values.", read, count));
+    }
+  }
+  return ReadResult::kRead;
+}
+
+ReadResult ReadRecord(InputFile file, const RecordReading& reading,
+                      Record& record, MessageSink& messages) {
+  RecordBuilder out(file.name(), reading, messages);
   if (!file.is_open()) {
     messages.ShowFileError(file.name(), file.error());
+    return ReadResult::kFailed;
+  }
+  std::string head;
+  const ReadResult result = DetectAndRead(file, out, head);
+  if (result == ReadResult::kRead) record = std::move(out.record());
+  return result;
+}
+
+std::optional<RecordLayout> InspectRecordFile(InputFile file) {
+  if (!file.is_open()) return std::nullopt;
+  MessageLog ignored;
+  const RecordReading reading;
+  RecordBuilder out(file.name(), reading, ignored);
+  std::string head;
+  RecordLayout layout;
+  const ReadResult result = DetectAndRead(file, out, head);
+  layout.format = out.record().format;
+  if (layout.format == RecordFormat::kPlainText) {
+    // Read or not, the columns are what the user is to choose from.
+    PlainTextLayout(head, layout);
+    if (layout.columns.empty()) return std::nullopt;
+    return layout;
+  }
+  if (result != ReadResult::kRead) return std::nullopt;
+  layout.channels = out.channels();
+  return layout;
+}
+
+int ReadRecordFile(CZELwDoc& doc, InputFile file, MessageSink& messages,
+                   TimeStepUse use, const ImportChoices& choices) {
+  RecordReading reading;
+  reading.scales = {doc.time_scale, doc.amplitude_scale};
+  reading.choices = choices;
+  reading.use = use;
+  Record record;
+  if (ReadRecord(std::move(file), reading, record, messages) !=
+      ReadResult::kRead) {
     return 0;
   }
-  return RecordReader(doc, file, messages).Read(use);
+  StoreRecord(doc, record);
+  return 1;
+}
+
+void StoreRecord(CZELwDoc& doc, const Record& record) {
+  // Values in g become the document's acceleration unit.
+  const double factor = doc.results_in_g == 1 ? 1.0 : doc.gravity;
+  doc.record_samples = record.samples;
+  for (RecordSample& sample : doc.record_samples) sample.value *= factor;
+  if (record.time_step > 0.0) doc.record_time_step = record.time_step;
+  const std::string description = RecordDescription(record);
+  if (!description.empty()) doc.record_name += " (" + description + ")";
 }
 
 }  // namespace zel

@@ -39,6 +39,10 @@ TEST(RecordDialogRulesTest, ChosenRecordTexts) {
             "User EQ : kobe_ns.dbs");
   EXPECT_EQ(ImportedRecordName("C:\\quakes\\kobe.dbs"), "User EQ : kobe.dbs");
   EXPECT_EQ(ImportedRecordName("bare.dbs"), "User EQ : bare.dbs");
+  // The catalog's own files first, every file last.
+  const std::string filter = kRecordFileFilter;
+  EXPECT_EQ(filter.rfind("ZEL dbase file *.dbs|*.dbs|", 0), 0u);
+  EXPECT_TRUE(filter.ends_with("|All files (*)|*||"));
 }
 
 TEST(RecordDialogRulesTest, SpectrumChoices) {

@@ -1,0 +1,31 @@
+#include "core/records/record_writer.h"
+
+#include "core/document/c_format.h"
+#include "core/document/replacing_file.h"
+
+namespace zel {
+
+std::string DbsText(const Record& record) {
+  std::string text;
+  const std::string description = RecordDescription(record);
+  if (!description.empty()) text += "** " + description + "\n";
+  text += CFormat("** Source: %s, %s, dt=%.9g s, npts=%zu, units g\n",
+                  RecordFormatName(record.format), record.name.c_str(),
+                  record.time_step, record.samples.size());
+  for (const RecordSample& sample : record.samples) {
+    text += CFormat("%.9g, %.9g\n", sample.time, sample.value);
+  }
+  return text;
+}
+
+bool WriteDbsRecord(const Record& record, const std::string& path,
+                    MessageSink& messages) {
+  ReplacingFile file(path);
+  if (file.is_open() && file.Write(DbsText(record)) && file.Commit()) {
+    return true;
+  }
+  messages.ShowFileError(path, file.error());
+  return false;
+}
+
+}  // namespace zel
