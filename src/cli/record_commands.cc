@@ -14,6 +14,7 @@
 
 #include "cli/number_text.h"
 #include "cli/output_file.h"
+#include "cli/record_argument.h"
 #include "cli/record_batch.h"
 #include "cli/stderr_messages.h"
 #include "core/document/c_format.h"
@@ -26,7 +27,6 @@
 #include "core/records/record_catalog.h"
 #include "core/records/record_choice.h"
 #include "core/records/record_curve.h"
-#include "core/records/record_folder.h"
 #include "core/records/record_reader.h"
 #include "core/records/record_writer.h"
 #include "core/records/response_spectrum.h"
@@ -110,51 +110,10 @@ ImportChoices ChoicesOf(const RecordOptions& options) {
   return choices;
 }
 
-// Whether `id` is a whole number, which names a catalog entry by position.
-bool IsCatalogNumber(const std::string& id, int& number) {
-  const auto [stop, error] =
-      std::from_chars(id.data(), id.data() + id.size(), number);
-  return !id.empty() && error == std::errc() && stop == id.data() + id.size();
-}
-
-// The catalog entry a record argument names by its number or title.
-const CatalogEntry* CatalogEntryOf(const std::string& id) {
-  const auto catalog = RecordCatalog();
-  int number = 0;
-  if (IsCatalogNumber(id, number)) {
-    if (number < 1 || number > static_cast<int>(catalog.size())) {
-      return nullptr;
-    }
-    return &catalog[number - 1];
-  }
-  for (const CatalogEntry& entry : catalog) {
-    if (id == entry.title) return &entry;
-  }
-  return nullptr;
-}
-
-// The record file of `id` and its record name: the catalog title, or
-// "User EQ : " and the file name. Opens it; a closed file after a message.
+// The record file of `id`, opened, and its record name.
 InputFile OpenRecord(const std::string& id, const RecordOptions& options,
                      MessageSink& messages, std::string& name) {
-  const CatalogEntry* entry = CatalogEntryOf(id);
-  int number = 0;
-  if (entry == nullptr && IsCatalogNumber(id, number)) {
-    messages.Show(CFormat("No catalog entry %d (1 to %d)", number,
-                          static_cast<int>(RecordCatalog().size())));
-    return InputFile();
-  }
-  std::string path = id;
-  name = ImportedRecordName(id);
-  if (entry != nullptr) {
-    const std::string folder =
-        options.base.empty() ? RecordBaseFolder() : options.base;
-    path = FindCatalogFile(entry->title, messages, folder);
-    name = entry->title;
-  }
-  InputFile file = InputFile::Open(path);
-  if (!file.is_open()) messages.ShowFileError(path, file.error());
-  return file;
+  return OpenRecordArgument(id, options.base, messages, name);
 }
 
 std::vector<BatchRecord> Plan(const RecordOptions& options) {

@@ -1,7 +1,6 @@
 #include "cli/scale_command.h"
 
 #include <cerrno>
-#include <charconv>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -13,13 +12,12 @@
 #include "cli/code_options.h"
 #include "cli/number_text.h"
 #include "cli/output_file.h"
+#include "cli/record_argument.h"
 #include "cli/stderr_messages.h"
 #include "core/document/c_format.h"
 #include "core/document/input_file.h"
-#include "core/records/record_catalog.h"
 #include "core/records/record_choice.h"
 #include "core/records/record_curve.h"
-#include "core/records/record_folder.h"
 #include "core/records/record_reader.h"
 #include "core/scaling/record_scaling.h"
 
@@ -122,39 +120,15 @@ std::string SplitExtras(const CodeEntry& code, std::vector<std::string> extras,
 // A record read as the record dialog reads it, values in g.
 struct LoadedRecord {
   std::string argument;
-  std::string path;
   CZELwDoc doc;
 };
 
 void Load(const ScaleOptions& options, LoadedRecord& record,
           MessageSink& messages) {
-  const auto catalog = RecordCatalog();
-  const std::string& id = record.argument;
-  std::string name = ImportedRecordName(id);
-  record.path = id;
-  int number = 0;
-  const auto [stop, error] =
-      std::from_chars(id.data(), id.data() + id.size(), number);
-  const bool numbered =
-      !id.empty() && error == std::errc() && stop == id.data() + id.size();
-  for (std::size_t k = 0; k < catalog.size(); ++k) {
-    if ((numbered && number == static_cast<int>(k) + 1) ||
-        id == catalog[k].title) {
-      name = catalog[k].title;
-      record.path = FindCatalogFile(
-          name, messages,
-          options.base.empty() ? RecordBaseFolder() : options.base);
-    }
-  }
-  if (numbered && name == ImportedRecordName(id)) {
-    Fail(CFormat("No catalog entry %d (1 to %d)", number,
-                 static_cast<int>(catalog.size())));
-  }
-  InputFile file = InputFile::Open(record.path);
-  if (!file.is_open()) {
-    messages.ShowFileError(record.path, file.error());
-    throw CLI::RuntimeError(1);
-  }
+  std::string name;
+  InputFile file =
+      OpenRecordArgument(record.argument, options.base, messages, name);
+  if (!file.is_open()) throw CLI::RuntimeError(1);
   PrepareRecordDocument(record.doc,
                         Number(options.amplitude_scale, "--amp-scale"),
                         Number(options.time_scale, "--time-scale"), name);
