@@ -9,6 +9,10 @@ namespace zel::app {
 
 class ChartWidget;
 
+// Names the print job after the document's window: the name the printer
+// queue shows and the print dialog offers for a PDF file.
+void NamePrintJob(const ChartWidget& chart, QPrinter& printer);
+
 // Draws the chart as the one page of `printer` (a real printer or the print
 // preview). False when the printer cannot be opened.
 bool PaintChartPage(ChartWidget& chart, QPrinter& printer);

@@ -41,6 +41,7 @@ class SessionPrinter {
 void Print(CMainFrame& frame, QPrinter& printer) {
   CChildFrame* child = frame.ActiveChild();
   if (!child) return;
+  NamePrintJob(child->GetView(), printer);
   QPrintDialog dialog(&printer, &frame);
   dialog.setWindowTitle(QStringLiteral("Print"));
   if (frame.app().RunDialog(dialog) != QDialog::Accepted) return;
