@@ -130,7 +130,7 @@ TEST_F(AppFixture, MenuStatesFollowTheActiveDocument) {
     }
   }
   EXPECT_TRUE(frame().ToolButton(ID_FILE_SAVE)->isEnabled());
-  EXPECT_FALSE(frame().ToolButton(ID_FILE_PRINT)->isEnabled());
+  EXPECT_TRUE(frame().ToolButton(ID_FILE_PRINT)->isEnabled());
   // A Generate dialog registered later enables its entry and makes its
   // document through the application with its new-document mode.
   frame().commands().Register(ID_DESIGN_NBC1995, [](CMainFrame& f) {

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "app/plot/chart_render.h"
 #include "core/plot/legend_placement.h"
 #include "core/plot/text_fit.h"
 
@@ -50,6 +51,45 @@ Qt::Alignment CornerAlignment(LegendPlace place) {
   }
 }
 
+// The frame around the chart, drawn over everything else: half a
+// millimetre wide on a 4 px/mm screen, and on a printer by its own pixels
+// per millimetre.
+class ChartFrame : public QCPLayerable {
+ public:
+  ChartFrame(QCustomPlot* plot, const MyGraphDisplay& display)
+      : QCPLayerable(plot, QStringLiteral("overlay")), display_(display) {}
+
+ protected:
+  void applyDefaultAntialiasingHint(QCPPainter* painter) const override {
+    painter->setAntialiasing(false);
+  }
+  QRect clipRect() const override {
+    return mParentPlot ? mParentPlot->viewport() : QRect();
+  }
+  void draw(QCPPainter* painter) override {
+    const QPaintDevice* device = painter->device();
+    double pixels_per_mm = kScreenPixelsPerMm;
+    if (device != nullptr && device->devType() == QInternal::Printer &&
+        device->widthMM() > 0) {
+      pixels_per_mm = double(device->width()) / device->widthMM();
+    }
+    const Rgb& c = kChartFrameColour;
+    QPen pen(QColor(c.red, c.green, c.blue),
+             std::max(1, ChartFrameWidth(pixels_per_mm)), Qt::SolidLine);
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter->setPen(pen);
+    painter->setBrush(Qt::NoBrush);
+    const QRect r = display_.PlotRect();
+    const int right = r.left() + r.width();
+    const int bottom = r.top() + r.height();
+    painter->drawRect(QRect(QPoint(r.left() - 1, r.top() - 1),
+                            QPoint(right + 2, bottom + 2)));
+  }
+
+ private:
+  const MyGraphDisplay& display_;
+};
+
 }  // namespace
 
 ChartWidget::ChartWidget(const CZELwDoc& doc, QWidget* parent)
@@ -65,6 +105,7 @@ ChartWidget::ChartWidget(const CZELwDoc& doc, QWidget* parent)
   plotLayout()->addElement(0, 0, title_);
   SetUpAxes();
   display_ = new MyGraphDisplay(axisRect());
+  new ChartFrame(this, *display_);
   legend->setVisible(false);
   setSelectionRectMode(QCP::srmZoom);
 }
@@ -246,8 +287,11 @@ void ChartWidget::updateLayout() {
 }
 
 void ChartWidget::FitTexts() {
-  const double points = ChartFontSize(
-      width(), height(), base_font_.pointSizeF(), kLegibleMinimumPoints);
+  // The size laid out for: the window's, or a printer's or a picture's.
+  const QRect chart = viewport();
+  const double points =
+      ChartFontSize(chart.width(), chart.height(), base_font_.pointSizeF(),
+                    kLegibleMinimumPoints);
   const QFont text = Sized(base_font_, points);
   for (QCPAxis* axis : {xAxis, yAxis}) axis->setTickLabelFont(text);
   legend->setFont(text);
@@ -265,7 +309,7 @@ void ChartWidget::FitTexts() {
 
   // Axis titles fit the axis they stand by (before the first layout, the
   // chart's size stands in), the title the chart's width.
-  const QRect plot = axisRect()->rect().isEmpty() ? rect() : axisRect()->rect();
+  const QRect plot = axisRect()->rect().isEmpty() ? chart : axisRect()->rect();
   const std::array<int, 2> axis_room = {plot.width(), plot.height()};
   const std::array<QCPAxis*, 2> axes = {xAxis, yAxis};
   for (int a = 0; a < 2; ++a) {
@@ -281,14 +325,15 @@ void ChartWidget::FitTexts() {
 
   QFont bold = base_font_;
   bold.setBold(true);
-  const double title_points = ChartFontSize(
-      width(), height(), base_font_.pointSizeF() + 2.0, kLegibleMinimumPoints);
+  const double title_points =
+      ChartFontSize(chart.width(), chart.height(),
+                    base_font_.pointSizeF() + 2.0, kLegibleMinimumPoints);
   // The title takes a quarter of the chart's height at most.
   const double line_height = QFontMetricsF(Sized(bold, title_points)).height();
-  const int most_lines =
-      std::max(1, static_cast<int>(height() * kMostTitleHeight / line_height));
+  const int most_lines = std::max(
+      1, static_cast<int>(chart.height() * kMostTitleHeight / line_height));
   const FittedText fit = FitLines(
-      title_lines_, width() - 2 * kTitlePadding, title_points,
+      title_lines_, chart.width() - 2 * kTitlePadding, title_points,
       std::max(kLegibleMinimumPoints, kLeastTitleShrink * title_points),
       WidthIn(bold), most_lines);
   QStringList lines;
@@ -376,27 +421,6 @@ QRect ChartWidget::LegendRect() const {
   return legend->visible() ? legend->rect() : QRect();
 }
 
-void ChartWidget::paintEvent(QPaintEvent* event) {
-  QCustomPlot::paintEvent(event);
-  QPainter painter(this);
-  DrawFrame(painter);
-}
-
-void ChartWidget::DrawFrame(QPainter& painter) const {
-  // Half a millimetre wide on a 4 px/mm screen.
-  const Rgb& c = kChartFrameColour;
-  QPen pen(QColor(c.red, c.green, c.blue), ChartFrameWidth(kScreenPixelsPerMm),
-           Qt::SolidLine);
-  pen.setJoinStyle(Qt::MiterJoin);
-  painter.setPen(pen);
-  painter.setBrush(Qt::NoBrush);
-  const QRect r = display_->PlotRect();
-  const int right = r.left() + r.width();
-  const int bottom = r.top() + r.height();
-  painter.drawRect(
-      QRect(QPoint(r.left() - 1, r.top() - 1), QPoint(right + 2, bottom + 2)));
-}
-
 void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
   QCustomPlot::mouseMoveEvent(event);
   const QPointF p = event->position();
@@ -405,6 +429,8 @@ void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
   }
 }
 
-QImage ChartWidget::RenderImage() { return grab().toImage(); }
+QImage ChartWidget::RenderImage() {
+  return ChartImage(*this, viewport().size(), ChartDpi());
+}
 
 }  // namespace zel::app

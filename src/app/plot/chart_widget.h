@@ -38,19 +38,16 @@ class ChartWidget : public QCustomPlot {
 
   // Renders the chart as it appears on screen, frame included.
   QImage RenderImage();
+  const CZELwDoc& document() const { return doc_; }
   // The legend's rectangle in the chart's pixels while it is shown.
   QRect LegendRect() const;
   bool LegendOutsidePlot() const { return legend_outside_; }
-  // Draws the frame around the plot, which lies outside the library's own
-  // drawing; every picture of the chart adds it.
-  void DrawFrame(QPainter& painter) const;
 
  signals:
   // Mouse position in chart coordinates, for the status bar.
   void CursorMoved(double x, double y);
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void updateLayout() override;
 

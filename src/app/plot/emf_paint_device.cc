@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "app/plot/chart_export.h"
+#include "app/plot/chart_render.h"
 #include "app/plot/chart_widget.h"
 #include "core/plot/chart_geometry.h"
 #include "core/plot/emf_records.h"
@@ -410,14 +411,10 @@ bool SaveChartEmf(ChartWidget& chart, const QString& path) {
   description += QFileInfo(path).completeBaseName();
   description += QChar(0);
   EmfPaintDevice device(size, chart, description);
-  QCPPainter painter;
-  if (!painter.begin(&device)) return false;
-  // Vector output: no pixel rounding, no cached label pictures.
-  painter.setMode(QCPPainter::pmVectorized);
-  painter.setMode(QCPPainter::pmNoCaching);
-  chart.toPainter(&painter, size.width(), size.height());
-  chart.DrawFrame(painter);
-  painter.end();
+  // The chart's one drawing, frame included.
+  if (!RenderChart(chart, device, QRectF(QPointF(0, 0), QSizeF(size)))) {
+    return false;
+  }
   return ReplaceFileWith(path, device.Bytes());
 }
 

@@ -1,11 +1,17 @@
 #include "app/shell/child_frame.h"
 
+#include <QClipboard>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QMimeData>
 
+#include "app/dialogs/dlg_png_export.h"
 #include "app/dialogs/dlg_title.h"
 #include "app/dialogs/dlg_unit.h"
 #include "app/plot/chart_export.h"
+#include "app/plot/chart_render.h"
 #include "app/plot/emf_paint_device.h"
+#include "app/shell/headless_export.h"
 #include "app/shell/zelw_app.h"
 #include "core/document/data_file.h"
 #include "core/document/save_kind.h"
@@ -128,6 +134,47 @@ void CChildFrame::OnFileSave() {
       if (!SaveChartEmf(*view_, path)) messages.Show(kFileNotFoundMessage);
       break;
   }
+}
+
+}  // namespace zel::app
+
+namespace zel::app {
+
+void CChildFrame::OnFileExport() {
+  Interaction& ui = app_.ui();
+  const QString path =
+      ui.save_file(this, ExportFilter(), QStringLiteral("png"));
+  if (path.isEmpty()) return;
+  MessageSink& messages = *ui.messages;
+  const ExportFormat* format = FindExportFormat(path);
+  if (format == nullptr) {
+    messages.Show(QStringLiteral("Export writes the format its file name "
+                                 "ends in: %1. Nothing was written.")
+                      .arg(KnownExportSuffixes())
+                      .toStdString());
+    return;
+  }
+  bool written = false;
+  if (QLatin1String(format->suffix) == QLatin1String("png")) {
+    // By default the window's picture at print quality.
+    DLG_PNG_EXPORT dialog(this);
+    const double enlarge = double(DLG_PNG_EXPORT::kDefaultDpi) / ChartDpi();
+    dialog.SetPixels(view_->viewport().size() * enlarge);
+    if (app_.RunDialog(dialog) != QDialog::Accepted) return;
+    written = ExportPng(*view_, path, dialog.Pixels(), dialog.Dpi());
+  } else {
+    written = format->write(*view_, path);
+  }
+  if (!written) messages.Show(kFileNotFoundMessage);
+}
+
+void CChildFrame::OnEditCopy() {
+  auto* data = new QMimeData;
+  data->setImageData(view_->RenderImage());
+  const QByteArray svg =
+      ChartSvg(*view_, view_->viewport().size(), ChartTitle(*view_));
+  if (!svg.isEmpty()) data->setData(QStringLiteral("image/svg+xml"), svg);
+  QGuiApplication::clipboard()->setMimeData(data);
 }
 
 }  // namespace zel::app

@@ -36,6 +36,11 @@ class CChildFrame : public QMdiSubWindow {
   void OnZoomOutAll();
   // Save: the data file or an image, by the extension of the chosen name.
   void OnFileSave();
+  // File / Export: PNG (of a chosen size and resolution), SVG, PDF or CSV,
+  // by the extension of the chosen name; Save's own rule is untouched.
+  void OnFileExport();
+  // Edit / Copy: the chart on the clipboard as a picture and as SVG.
+  void OnEditCopy();
 
  signals:
   // The document changed and its views were updated.

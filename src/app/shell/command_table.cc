@@ -10,8 +10,8 @@ constexpr const char* kDesign = "Design Response Spectra";
 constexpr MenuScope kAll = MenuScope::kAlways;
 constexpr MenuScope kDoc = MenuScope::kWithDocument;
 
-constexpr std::array<const char*, 6> kMenuTitles = {
-    "File", "Generate", "Option", "View", "Window", "Help"};
+constexpr std::array<const char*, 7> kMenuTitles = {
+    "File", "Edit", "Generate", "Option", "View", "Window", "Help"};
 
 constexpr CommandEntry kTable[] = {
     // File. The recent files are inserted before Exit.
@@ -21,15 +21,23 @@ constexpr CommandEntry kTable[] = {
      kDoc},
     {"File", nullptr, "Save", ID_FILE_SAVE, "Save the active document",
      "Ctrl+S", kDoc},
+    {"File", nullptr, "Export...", ID_FILE_EXPORT,
+     "Export the chart as a PNG, SVG or PDF picture, or its curves as CSV", "",
+     kDoc},
     {"File", nullptr, "", 0, "", "", kAll},
     {"File", nullptr, "Print", ID_FILE_PRINT, "Print the active document", "",
      kDoc},
+    {"File", nullptr, "Print Preview", ID_FILE_PRINT_PREVIEW,
+     "Display full pages", "", kDoc},
     {"File", nullptr, "Page Setup", ID_FILE_PAGE_SETUP,
      "Change the printing options", "Ctrl+P", kDoc},
     {"File", nullptr, "Print Setup", ID_FILE_PRINT_SETUP,
      "Change the printer and printing options", "Ctrl+R", kAll},
     {"File", nullptr, "", 0, "", "", kAll},
     {"File", nullptr, "Exit", ID_APP_EXIT, "Quit the application", "", kAll},
+
+    {"Edit", nullptr, "Copy", ID_EDIT_COPY,
+     "Copy the chart to the clipboard as a picture", "Ctrl+C", kDoc},
 
     {kGenerate, nullptr, "Earthquake Record", ID_GENERATE_EQ_RECORD,
      "Generate Earthquake Record from real earthquake database", "", kAll},

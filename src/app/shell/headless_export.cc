@@ -2,14 +2,14 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QImage>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <cstdio>
 #include <cstring>
 #include <iostream>
 #include <string_view>
 
+#include "app/plot/chart_export.h"
+#include "app/plot/chart_render.h"
 #include "app/plot/chart_widget.h"
 #include "app/plot/emf_paint_device.h"
 #include "core/document/curve_document.h"
@@ -20,7 +20,7 @@ namespace {
 
 constexpr char kPrefix[] = "zel --export: ";
 constexpr char kUsage[] =
-    "usage: zel --export IN.zel OUT.{png,emf} [--size WxH]";
+    "usage: zel --export IN.zel OUT.{png,svg,pdf,emf,csv} [--size WxH]";
 constexpr int kMinSide = 64;
 constexpr int kMaxSide = 8000;
 
@@ -35,31 +35,7 @@ int Fail(const QString& text, int status) {
 }
 
 bool WritePng(ChartWidget& chart, const QString& path) {
-  const QImage image =
-      chart.RenderImage().convertToFormat(QImage::Format_RGB32);
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return false;
-  if (!image.save(&file, "PNG")) {
-    file.cancelWriting();
-    return false;
-  }
-  return file.commit();
-}
-
-const ExportFormat* FindFormat(const QString& path) {
-  const QString suffix = QFileInfo(path).suffix().toLower();
-  for (const ExportFormat& format : ExportFormats()) {
-    if (suffix == QLatin1String(format.suffix)) return &format;
-  }
-  return nullptr;
-}
-
-QString KnownSuffixes() {
-  QStringList suffixes;
-  for (const ExportFormat& format : ExportFormats()) {
-    suffixes << QLatin1String(format.suffix);
-  }
-  return suffixes.join(QStringLiteral(", "));
+  return ExportPng(chart, path, chart.viewport().size(), ChartDpi());
 }
 
 // "WxH" within the limits, else an empty size.
@@ -78,10 +54,41 @@ QSize ParseSize(const QString& text) {
 
 const std::vector<ExportFormat>& ExportFormats() {
   static const std::vector<ExportFormat> formats = {
-      {"png", WritePng},
-      {"emf", SaveChartEmf},
+      {"png", WritePng, "PNG Image"},
+      {"svg", ExportSvg, "SVG Drawing"},
+      {"pdf", ExportPdf, "PDF Document"},
+      {"emf", SaveChartEmf, "Enhanced Metafile"},
+      {"csv", ExportCsv, "CSV Curves"},
   };
   return formats;
+}
+
+const ExportFormat* FindExportFormat(const QString& path) {
+  const QString suffix = QFileInfo(path).suffix().toLower();
+  for (const ExportFormat& format : ExportFormats()) {
+    if (suffix == QLatin1String(format.suffix)) return &format;
+  }
+  return nullptr;
+}
+
+QString KnownExportSuffixes() {
+  QStringList suffixes;
+  for (const ExportFormat& format : ExportFormats()) {
+    suffixes << QLatin1String(format.suffix);
+  }
+  return suffixes.join(QStringLiteral(", "));
+}
+
+QString ExportFilter() {
+  QString filter;
+  for (const ExportFormat& format : ExportFormats()) {
+    const QString suffix = QLatin1String(format.suffix);
+    const QString name = format.name
+                             ? QLatin1String(format.name)
+                             : suffix.toUpper() + QStringLiteral(" File");
+    filter += QStringLiteral("%1 (*.%2)|*.%2|").arg(name, suffix);
+  }
+  return filter;
 }
 
 bool WantsExport(int argc, char* argv[]) {
@@ -120,10 +127,10 @@ int RunExport(const QStringList& arguments) {
   if (files.size() != 2) return Fail(QString::fromLatin1(kUsage), 2);
   const QString& in = files[0];
   const QString& out = files[1];
-  const ExportFormat* format = FindFormat(out);
+  const ExportFormat* format = FindExportFormat(out);
   if (format == nullptr) {
-    return Fail(QStringLiteral("cannot write '%1': the picture formats are %2")
-                    .arg(out, KnownSuffixes()),
+    return Fail(QStringLiteral("cannot write '%1': the export formats are %2")
+                    .arg(out, KnownExportSuffixes()),
                 2);
   }
 

@@ -1,6 +1,8 @@
-// `zel --export IN.zel OUT.{png,emf} [--size WxH]`: draws a saved document with
-// the window's own chart drawing and writes the picture, without opening a
-// window or needing a display. The picture's format follows OUT's suffix.
+// `zel --export IN.zel OUT.{png,svg,pdf,emf,csv} [--size WxH]`: draws a saved
+// document with the window's own chart drawing and writes the picture (PNG,
+// SVG, PDF, Enhanced Metafile) or the curves (CSV), without opening a window
+// or needing a display. The format follows OUT's suffix; File / Export
+// offers the same formats.
 #ifndef ZEL_APP_SHELL_HEADLESS_EXPORT_H_
 #define ZEL_APP_SHELL_HEADLESS_EXPORT_H_
 
@@ -18,9 +20,17 @@ class ChartWidget;
 struct ExportFormat {
   const char* suffix;
   bool (*write)(ChartWidget& chart, const QString& path);
+  // The name in the file dialog's filter; "SUFFIX File" when unset.
+  const char* name = nullptr;
 };
 // A new format is one more entry here.
 const std::vector<ExportFormat>& ExportFormats();
+// The format of `path`'s suffix (any case), or nullptr.
+const ExportFormat* FindExportFormat(const QString& path);
+// "png, svg, ...", for messages.
+QString KnownExportSuffixes();
+// Every format as a file-dialog filter "name (*.x)|*.x|...".
+QString ExportFilter();
 
 inline constexpr QSize kDefaultExportSize(800, 600);
 

@@ -375,6 +375,12 @@ void CMainFrame::OnCommand(int id) {
       case ID_FILE_SAVE:
         child->OnFileSave();
         break;
+      case ID_FILE_EXPORT:
+        child->OnFileExport();
+        break;
+      case ID_EDIT_COPY:
+        child->OnEditCopy();
+        break;
       case ID_OPTION_XLOG:
         child->OnXScaleLog();
         break;
@@ -443,7 +449,8 @@ void CMainFrame::UpdateCommandUI() {
     }
   }
   // Printing and page setup come with the printing support.
-  for (int id : {ID_FILE_PRINT, ID_FILE_PAGE_SETUP, ID_FILE_PRINT_SETUP}) {
+  for (int id : {ID_FILE_PRINT, ID_FILE_PRINT_PREVIEW, ID_FILE_PAGE_SETUP,
+                 ID_FILE_PRINT_SETUP}) {
     actions_.at(id)->setEnabled(commands_.Has(id));
   }
   actions_.at(ID_FILE_SAVE)->setEnabled(has_doc);

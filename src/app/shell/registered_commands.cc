@@ -37,6 +37,7 @@
 #include "app/shell/command_registry.h"
 #include "app/shell/command_table.h"
 #include "app/shell/main_frame.h"
+#include "app/shell/print_commands.h"
 #include "app/shell/zelw_app.h"
 #include "core/records/frequency_switch.h"
 #include "core/scaling/design_target.h"
@@ -115,6 +116,9 @@ void RegisterCommands(CommandRegistry& registry) {
   registry.Register(ID_DESIGN_KS2000, RunGenerateDialog<DLG_KS2000>);
   registry.Register(ID_DESIGN_KS, RunGenerateDialog<DLG_KS>);
   registry.Register(ID_DESIGN_KS_BRIDGE, RunGenerateDialog<DLG_KS_BRIDGE>);
+
+  // Print, Print Preview, Page Setup and Print Setup.
+  RegisterPrintCommands(registry);
 }
 
 }  // namespace zel::app
