@@ -52,7 +52,8 @@ DLG_RecordInfo::DLG_RecordInfo(const CZELwDoc& doc, QWidget* parent)
   layout->addWidget(name);
   layout->addWidget(table_);
   layout->addWidget(buttons);
-  resize(560, 420);
+  table_->resizeRowsToContents();
+  resize(600, 500);
 }
 
 }  // namespace zel::app

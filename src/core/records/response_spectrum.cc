@@ -214,7 +214,6 @@ int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
   doc.subtitle = settings.record_name;
   SetUpChart(doc);
   doc.SetDampingLegend();
-  if (settings.exact_damping) doc.chart.legend.title += " (exact)";
   doc.axis_display = doc.axis_display == 0 ? 1 : 0;
   doc.SetTitle(doc.title);
   doc.UpdateAllViews();
