@@ -162,11 +162,6 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
   // ...and spaces the periods geometrically up to "to" itself.
   EXPECT_THAT(ReadAll(dir / "k.csv"), HasSubstr("\n2,"));
   r = RunTo(dir, spectrum + " --exact --damping 0.1", "exact.zel");
-  SpectrumSettings exact =
-      Settings(0, {0.1}, 0.009999999776482582, 10, 200, "User EQ : quake.dbs");
-  exact.exact_damping = true;
-  EXPECT_EQ(ReadAll(dir / "exact.zel"),
-            SavedBytes(SpectrumOf(record, exact), dir));
   EXPECT_THAT(ReadAll(dir / "exact.zel"),
               HasSubstr("*TITLE, Earthquake Response Spectrum (exact)\n"));
 
@@ -193,7 +188,6 @@ TEST(RecordCommandsTest, ParamsPrintTextOrCsv) {
   auto r = RunCli(params);
   ASSERT_EQ(r.status, 0) << r.out;
   EXPECT_THAT(r.out, StartsWith("Record : User EQ : quake.dbs\nPGA : "));
-  EXPECT_THAT(r.out, HasSubstr("\nArias intensity : "));
   r = RunCli(params + " " + Quoted(dir / "missing.dbs") + " --csv");
   EXPECT_EQ(r.status, 1);
   EXPECT_THAT(r.out, StartsWith("\"Record\",\"PGA (g)\",\"Time of PGA (s)\""));

@@ -227,7 +227,6 @@ TEST(ResponseSpectrumTest, GrowthAtLongPeriodsAndBadSettingsNeverBreak) {
   for (int j = 0; j < 9; ++j) {
     EXPECT_EQ(Ordinate(textbook, 0, j), Ordinate(undamped, 0, j));
     EXPECT_LT(Ordinate(textbook, 2, j), Ordinate(textbook, 1, j));
-    EXPECT_LT(Ordinate(textbook, 1, j), Ordinate(textbook, 0, j));
   }
 
   // Critical damping makes every response NaN; a NaN never replaces the
