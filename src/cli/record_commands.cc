@@ -23,6 +23,7 @@
 #include "core/document/replacing_file.h"
 #include "core/records/chart_setup.h"
 #include "core/records/frequency_switch.h"
+#include "core/records/ground_motion.h"
 #include "core/records/record.h"
 #include "core/records/record_catalog.h"
 #include "core/records/record_choice.h"
@@ -227,6 +228,9 @@ struct SpectrumOptions {
   std::string to;
   std::string steps;
   bool log = false;
+  bool log_grid = false;
+  bool linear_grid = false;
+  bool exact = false;
   std::string summary;
 };
 
@@ -274,6 +278,11 @@ SpectrumSettings SettingsOf(const SpectrumOptions& options) {
   }
   s.time_scale = Number(options.record.time_scale, "--time-scale");
   s.log_axis = options.log;
+  // A logarithmic axis gets log-spaced periods unless asked otherwise.
+  s.log_grid = options.log_grid || (options.log && !options.linear_grid);
+  s.exact_damping = options.exact;
+  StderrMessages messages;
+  if (!CheckSpectrumSettings(s, messages)) throw CLI::RuntimeError(1);
   return s;
 }
 
@@ -341,7 +350,19 @@ void AddSpectrum(CLI::App& app) {
   command->add_option(
       "--steps", options->steps,
       CFormat("Number of periods (default %d)", defaults.period_count));
-  command->add_flag("--log", options->log, "Logarithmic period axis");
+  command->add_flag("--log", options->log,
+                    "Logarithmic period axis, with log-spaced periods unless "
+                    "--linear-grid");
+  command
+      ->add_flag("--log-grid", options->log_grid,
+                 "Periods spaced geometrically from --from to --to, both "
+                 "included (--from > 0)")
+      ->excludes(command->add_flag(
+          "--linear-grid", options->linear_grid,
+          "The half-open linear period grid, also with --log"));
+  command->add_flag("--exact", options->exact,
+                    "Textbook decay rate zeta*omega in the oscillator's "
+                    "velocity and acceleration terms; titles say (exact)");
   command->add_option("--summary", options->summary,
                       "CSV table: a row per record of its name, PGA and "
                       "ordinates");
@@ -433,20 +454,55 @@ void AddConvertRecord(CLI::App& app) {
     }
     std::cout << CFormat("%zu samples, dt = %g s\n", record.samples.size(),
                          record.time_step);
-  });
-}
+    // `params`: the ground-motion parameters of each record, as text or CSV on
+    // standard output.
+    void AddParams(CLI::App & app) {
+      auto options = std::make_shared<RecordOptions>();
+      CLI::App* command = app.add_subcommand(
+          "params", "Print the ground-motion parameters of earthquake records");
+      command
+          ->add_option("records", options->records,
+                       "Catalog numbers (1-53) or titles, or record files")
+          ->required();
+      AddReadingOptions(command, *options);
+      command->add_flag("--csv", options->csv,
+                        "A CSV header and a row per record");
+      command->callback([options] {
+        const double amplitude = NumberIn(options->amplitude_scale,
+                                          "--amp-scale", kRecordAmplitudeRange);
+        const double time = Number(options->time_scale, "--time-scale");
+        StderrMessages messages;
+        bool failed = false;
+        if (options->csv) std::cout << GroundMotionCsvHeader();
+        for (const std::string& id : options->records) {
+          CZELwDoc doc;
+          if (!ReadRecordDocument(id, *options, amplitude, time, doc,
+                                  messages)) {
+            failed = true;
+            continue;
+          }
+          const GroundMotionParameters p = ComputeGroundMotionParameters(
+              doc.record_samples, doc.record_time_step);
+          std::cout << (options->csv
+                            ? GroundMotionCsvRow(doc.record_name, p)
+                            : GroundMotionText(doc.record_name, p) + "\n");
+        }
+        if (failed) throw CLI::RuntimeError(1);
+      });
+    }
 
 }  // namespace
 
 void AddRecordCommands(CLI::App& app) {
-  AddCatalog(app);
-  AddHistoryCommand(app, "record",
-                    "Write the time history of earthquake records", false);
-  AddSpectrum(app);
-  AddHistoryCommand(
-      app, "fft", "Write the normalised Fourier amplitude spectrum of records",
-      true);
-  AddConvertRecord(app);
+    AddCatalog(app);
+    AddHistoryCommand(app, "record",
+                      "Write the time history of earthquake records", false);
+    AddSpectrum(app);
+    AddParams(app);
+    AddHistoryCommand(
+        app, "fft",
+        "Write the normalised Fourier amplitude spectrum of records", true);
+    AddConvertRecord(app);
 }
 
 }  // namespace zel::cli

@@ -2,6 +2,8 @@
 // Time<->Frequency command, driven through the menus offscreen.
 #include <gmock/gmock.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLocale>
 #include <QTest>
 #include <algorithm>
@@ -10,6 +12,7 @@
 #include <vector>
 
 #include "app/dialogs/dlg_progress_bar.h"
+#include "app/dialogs/dlg_record_info.h"
 #include "app/dialogs/earth_dlg.h"
 #include "app/dialogs/eq_rec_dlg.h"
 #include "app/dialogs/record_import_dlg.h"
@@ -101,6 +104,8 @@ TEST_F(RecordDialogsTest, DefaultsTypeListLogBoxAndAdd) {
   }
   EXPECT_EQ(spectra.from_edit()->text(), "0.01");
   EXPECT_EQ(spectra.from_edit()->Value(), 0.009999999776482582);
+  EXPECT_FALSE(spectra.exact_box()->isChecked());
+  EXPECT_FALSE(spectra.log_grid_box()->isChecked());
   EXPECT_EQ(spectra.to_edit()->text() + spectra.step_edit()->text(), "10200");
   EXPECT_FALSE(spectra.log_box()->isChecked());
   // "Step" takes digits only; an edited text is read as typed, as far as it
@@ -304,6 +309,19 @@ TEST_F(RecordDialogsTest, RecordDocumentAndTimeFrequencySwitch) {
   EXPECT_TRUE(ticks.contains(10.0));
   frame().OnCommand(ID_VIEW_TIME_FREQUENCY);
   EXPECT_EQ(ContextLabel(doc), "Max = 0.8200(g) at 2.46 sec");
+
+  // Record Information lists the parameters; Copy puts their text on the
+  // clipboard.
+  answer_ = [](QDialog& d) {
+    auto& info = dynamic_cast<DLG_RecordInfo&>(d);
+    EXPECT_EQ(info.table()->item(0, 1)->text(), "-0.8200 g");
+    EXPECT_EQ(info.table()->item(1, 1)->text(), "2.460 s");
+    info.copy_button()->click();
+    return int(QDialog::Rejected);
+  };
+  frame().OnCommand(ID_VIEW_RECORD_INFO);
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(
+      QString("Record : ") + kElCentro + "\nPGA : -0.8200 g\nTime of PGA : "));
 
   // A response-spectrum document stays as it is.
   AnswerWith<EarthDlg>([](EarthDlg& d) { d.step_edit()->setText("10"); });

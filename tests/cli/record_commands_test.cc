@@ -159,12 +159,17 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
   r = RunTo(dir, spectrum + " --kind sd --from 0 --to 2 --steps 20 --log",
             "k.csv");
   EXPECT_THAT(ReadAll(dir / "k.csv"), HasSubstr("\n0.009999999776482582,"));
+  // ...and spaces the periods geometrically up to "to" itself.
+  EXPECT_THAT(ReadAll(dir / "k.csv"), HasSubstr("\n2,"));
+  r = RunTo(dir, spectrum + " --exact --damping 0.1", "exact.zel");
+  EXPECT_THAT(ReadAll(dir / "exact.zel"),
+              HasSubstr("*TITLE, Earthquake Response Spectrum (exact)\n"));
 
   // Out-of-range settings are refused before anything is written.
   for (const char* bad :
        {"--steps 0", "--steps 5001", "--steps 2.5", "--kind xyz",
         "--damping 1.5", "--damping 0,0,0,0,0,0,0", "--from -1", "--to 101",
-        "--damping abc", "--amp-scale 101"}) {
+        "--damping abc", "--amp-scale 101", "--log-grid --from 0"}) {
     r = RunTo(dir, spectrum + " " + bad, "bad.zel");
     EXPECT_EQ(r.status, 1) << bad;
     EXPECT_FALSE(r.out.empty()) << bad;
@@ -174,6 +179,20 @@ TEST(RecordCommandsTest, SpectrumWritesWhatTheDialogWould) {
   r = RunTo(dir, spectrum + " --time-scale 0", "zero.zel");
   EXPECT_EQ(r.status, 1);
   EXPECT_THAT(r.out, HasSubstr("Times must increase!"));
+}
+
+TEST(RecordCommandsTest, ParamsPrintTextOrCsv) {
+  TempDir dir;
+  WriteAll(dir / "quake.dbs", SmallRecord());
+  const std::string params = "params " + Quoted(dir / "quake.dbs");
+  auto r = RunCli(params);
+  ASSERT_EQ(r.status, 0) << r.out;
+  EXPECT_THAT(r.out, StartsWith("Record : User EQ : quake.dbs\nPGA : "));
+  r = RunCli(params + " " + Quoted(dir / "missing.dbs") + " --csv");
+  EXPECT_EQ(r.status, 1);
+  EXPECT_THAT(r.out, StartsWith("\"Record\",\"PGA (g)\",\"Time of PGA (s)\""));
+  EXPECT_THAT(r.out, HasSubstr("\n\"User EQ : quake.dbs\","));
+  EXPECT_THAT(r.out, HasSubstr("ERROR! File Not Found!"));
 }
 
 TEST(RecordCommandsTest, BatchesSkipABadRecordAndFinishTheOthers) {

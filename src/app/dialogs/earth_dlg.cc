@@ -26,6 +26,8 @@ EarthDlg::EarthDlg(DialogHost& host, QWidget* parent)
       to_(new NumberEdit),
       step_(new NumberEdit(/*digits_only=*/true)),
       log_box_(new QCheckBox(QStringLiteral("x-axis log scale"))),
+      log_grid_box_(new QCheckBox(QStringLiteral("Log-spaced periods"))),
+      exact_box_(new QCheckBox(QStringLiteral("Exact damping rate"))),
       type_list_(new QComboBox) {
   setWindowTitle(
       QStringLiteral("Earthquake Response Spectra Generation Dialog"));
@@ -41,6 +43,10 @@ EarthDlg::EarthDlg(DialogHost& host, QWidget* parent)
   add_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   damping_grid->addWidget(add_, 0, 3);
   damping_grid->setColumnStretch(4, 1);
+  exact_box_->setToolTip(QStringLiteral(
+      "Textbook decay rate (damping ratio times the natural frequency) in "
+      "the oscillator's velocity and acceleration; the chart says (exact)"));
+  damping_grid->addWidget(exact_box_, 2, 0, 1, 4);
 
   auto* period_group = new QGroupBox(QStringLiteral("Output Period"));
   auto* period_grid = new QGridLayout(period_group);
@@ -50,7 +56,10 @@ EarthDlg::EarthDlg(DialogHost& host, QWidget* parent)
   period_grid->addWidget(to_, 0, 3);
   period_grid->addWidget(new QLabel(QStringLiteral("Step")), 0, 4);
   period_grid->addWidget(step_, 0, 5);
-  period_grid->addWidget(log_box_, 1, 0, 1, 6);
+  period_grid->addWidget(log_box_, 1, 0, 1, 3);
+  log_grid_box_->setToolTip(QStringLiteral(
+      "Periods spaced geometrically from From to To, both included"));
+  period_grid->addWidget(log_grid_box_, 1, 3, 1, 3);
 
   for (const char* name : SpectrumTypeNames()) {
     type_list_->addItem(QString::fromLatin1(name));
@@ -118,6 +127,8 @@ SpectrumSettings EarthDlg::ReadValues() {
   s.period_count = TruncateToInt(step_->Value());
   s.kind = type_list_->currentIndex();
   s.log_axis = log_box_->isChecked();
+  s.log_grid = log_grid_box_->isChecked();
+  s.exact_damping = exact_box_->isChecked();
   return s;
 }
 
@@ -151,6 +162,10 @@ void EarthDlg::accept() {
     }
   }
   const SpectrumSettings settings = ReadValues();
+  if (!CheckSpectrumSettings(settings, messages)) {
+    from_->setFocus();
+    return;
+  }
 
   FollowUpValues& follow_up = host_.follow_up();
   follow_up.spectrum_follows = true;

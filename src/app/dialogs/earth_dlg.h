@@ -34,6 +34,8 @@ class EarthDlg : public QDialog {
   NumberEdit* to_edit() { return to_; }
   NumberEdit* step_edit() { return step_; }
   QCheckBox* log_box() { return log_box_; }
+  QCheckBox* log_grid_box() { return log_grid_box_; }
+  QCheckBox* exact_box() { return exact_box_; }
   QComboBox* type_list() { return type_list_; }
   int damping_count() const { return damping_count_; }
 
@@ -65,6 +67,8 @@ class EarthDlg : public QDialog {
   NumberEdit* to_;
   NumberEdit* step_;
   QCheckBox* log_box_;
+  QCheckBox* log_grid_box_;
+  QCheckBox* exact_box_;
   QComboBox* type_list_;
   int damping_count_ = 1;
   std::function<void(const DLG_ProgressBar&)> progress_observer_;

@@ -114,6 +114,8 @@ constexpr CommandEntry kTable[] = {
      "Show the whole chart again", "", kDoc},
     {"View", nullptr, "Time<->Frequency", ID_VIEW_TIME_FREQUENCY,
      "Change the domain between time-history and frequency", "", kDoc},
+    {"View", nullptr, "Record Information", ID_VIEW_RECORD_INFO,
+     "Show the ground-motion parameters of the record", "", kDoc},
 
     {"Window", nullptr, "Cascade", ID_WINDOW_CASCADE,
      "Arrange windows so they overlap", "", kDoc},

@@ -472,6 +472,9 @@ void CMainFrame::UpdateCommandUI() {
     actions_.at(ID_VIEW_TIME_FREQUENCY)
         ->setEnabled(state.time_frequency.enabled &&
                      commands_.Has(ID_VIEW_TIME_FREQUENCY));
+    actions_.at(ID_VIEW_RECORD_INFO)
+        ->setEnabled(doc->record_flag == 1 &&
+                     commands_.Has(ID_VIEW_RECORD_INFO));
   }
 }
 

@@ -28,6 +28,7 @@
 #include "app/dialogs/dlg_ks_bridge.h"
 #include "app/dialogs/dlg_ksce2019.h"
 #include "app/dialogs/dlg_newmark.h"
+#include "app/dialogs/dlg_record_info.h"
 #include "app/dialogs/dlg_scale.h"
 #include "app/dialogs/dlg_ubc.h"
 #include "app/dialogs/dlg_ubc97.h"
@@ -69,6 +70,12 @@ void RegisterCommands(CommandRegistry& registry) {
     if (CChildFrame* child = frame.ActiveChild()) {
       SwitchTimeFrequency(child->GetDocument(), frame.app().messages());
     }
+  });
+  registry.Register(ID_VIEW_RECORD_INFO, [](CMainFrame& frame) {
+    CChildFrame* child = frame.ActiveChild();
+    if (child == nullptr || child->GetDocument().record_flag != 1) return;
+    DLG_RecordInfo dialog(child->GetDocument(), &frame);
+    frame.app().RunDialog(dialog);
   });
 
   // A record against a design code.

@@ -105,6 +105,8 @@ void CZELwDoc::AddLabel(ChartLabel label) {
 
 void CZELwDoc::SetDampingLegend() {
   chart.legend.title = "Damping :";
+  // Spectra by the textbook decay rate say so, also once read back.
+  if (title.ends_with(" (exact)")) chart.legend.title += " (exact)";
   chart.legend.entries.clear();
   for (int c = 0; c < std::min(curve_count, kMaxCurves); ++c) {
     chart.legend.entries.push_back(curve_legend[c].empty()

@@ -69,7 +69,8 @@ class CZELwDoc {
   // Adds a free label; carriage returns are removed from the content.
   void AddLabel(ChartLabel label);
   // Legend "Damping :" with one " %1.2f" entry per curve, or the curve's
-  // own legend text where it has one.
+  // own legend text where it has one; "Damping : (exact)" when the title
+  // ends with " (exact)".
   void SetDampingLegend();
 
   // The framework's title of the document's window.

@@ -14,11 +14,19 @@ double GridPeriod(double from, double to, int count, int j) {
   return period == 0.0 ? kZeroPeriod : period;
 }
 
+double LogGridPeriod(double from, double to, int count, int j) {
+  if (count < 2 || j == 0) return from;
+  if (j == count - 1) return to;
+  return from * std::pow(to / from, static_cast<double>(j) / (count - 1));
+}
+
 OscillatorCoefficients ComputeOscillatorCoefficients(double omega, double zeta,
-                                                     double dt) {
+                                                     double dt,
+                                                     DampingRate rate) {
   const double root = std::sqrt(1.0 - Square(zeta));
   const double omega_d = omega * root;
-  const double sigma = omega_d * zeta;
+  const double sigma =
+      rate == DampingRate::kExact ? zeta * omega : omega_d * zeta;
   const double r = zeta / root;
 
   // Forcing constants of the linear interpolation of the load.

@@ -25,13 +25,27 @@ struct OscillatorCoefficients {
   double a_from_d, a_from_v, a_from_start, a_from_end;
 };
 
+// Period j of the geometric grid of `count` periods from `from` to `to`, both
+// included (from and to greater than 0): from (to / from)^(j / (count - 1)).
+// One period is `from`.
+double LogGridPeriod(double from, double to, int count, int j);
+
+// The decay rate of the free oscillation in the velocity and acceleration
+// terms of the step.
+enum class DampingRate {
+  // zeta * omega_d: ZEL's established rule, the default, kept as it is.
+  kDampedFrequency,
+  // zeta * omega: the textbook solution of the damped oscillator.
+  kExact,
+};
+
 // Coefficients for circular frequency `omega`, damping ratio `zeta` (fraction
-// of critical) and time step `dt`. The oscillation's decay in the derivative
-// terms is taken from the damped frequency (zeta * omega_d), while the
-// exponential uses zeta * omega: both are ZEL's established results and are
-// kept. A ratio of 1 or more gives non-finite coefficients.
-OscillatorCoefficients ComputeOscillatorCoefficients(double omega, double zeta,
-                                                     double dt);
+// of critical) and time step `dt`. The exponential decay is zeta * omega in
+// both rules; `rate` chooses the decay in the derivative terms. Both rules
+// agree at zero damping. A ratio of 1 or more gives non-finite coefficients.
+OscillatorCoefficients ComputeOscillatorCoefficients(
+    double omega, double zeta, double dt,
+    DampingRate rate = DampingRate::kDampedFrequency);
 
 }  // namespace zel
 

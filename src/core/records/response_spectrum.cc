@@ -47,7 +47,9 @@ double SpectralValue(int kind, double peak, double omega, double divisor) {
   }
 }
 
-bool CheckSettings(const SpectrumSettings& s, MessageSink& messages) {
+}  // namespace
+
+bool CheckSpectrumSettings(const SpectrumSettings& s, MessageSink& messages) {
   if (s.period_count < 1 || s.period_count > kMaxPeriods) {
     messages.Show("Error : The number of periods must be 1 to 5000!");
     return false;
@@ -60,8 +62,15 @@ bool CheckSettings(const SpectrumSettings& s, MessageSink& messages) {
     messages.Show("Error : Unknown spectrum kind!");
     return false;
   }
+  if (s.log_grid && !(FirstPeriod(s) > 0.0 && s.period_to > 0.0)) {
+    messages.Show(
+        "Error : Log-spaced periods need From and To greater than 0!");
+    return false;
+  }
   return true;
 }
+
+namespace {
 
 // Stores the points of the oscillators whose peaks are final, in curve and
 // period order, and tells the caller how far the curves have come.
@@ -120,6 +129,18 @@ double FirstPeriod(const SpectrumSettings& settings) {
   return settings.period_from;
 }
 
+std::vector<double> SpectrumPeriods(const SpectrumSettings& settings) {
+  const int count = settings.period_count;
+  const double from = FirstPeriod(settings);
+  std::vector<double> periods(static_cast<std::size_t>(std::max(count, 0)));
+  for (int j = 0; j < count; ++j) {
+    periods[j] = settings.log_grid
+                     ? LogGridPeriod(from, settings.period_to, count, j)
+                     : GridPeriod(from, settings.period_to, count, j);
+  }
+  return periods;
+}
+
 void PrepareSpectrumDocument(CZELwDoc& doc, const SpectrumSettings& settings) {
   const int kind = settings.kind;
   if (kind != kPseudoAcceleration && kind != kAbsoluteAcceleration) {
@@ -150,7 +171,7 @@ int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
                             std::span<const RecordSample> record,
                             double time_step, MessageSink& messages,
                             const SpectrumRun& run) {
-  if (!CheckSettings(settings, messages)) return 0;
+  if (!CheckSpectrumSettings(settings, messages)) return 0;
   if (settings.log_axis && settings.kind != kCombinedDVA && doc.log_x == 0) {
     doc.ToggleLogX();
   }
@@ -161,13 +182,12 @@ int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
       BuildForcing(accel, !record.empty() && record[0].time == 0.0);
 
   const int count = settings.period_count;
-  const double from = FirstPeriod(settings);
-  std::vector<double> periods(count);
+  const std::vector<double> periods = SpectrumPeriods(settings);
   std::vector<double> omegas(count);
-  for (int j = 0; j < count; ++j) {
-    periods[j] = GridPeriod(from, settings.period_to, count, j);
-    omegas[j] = kSpectrumTwoPi / periods[j];
-  }
+  for (int j = 0; j < count; ++j) omegas[j] = kSpectrumTwoPi / periods[j];
+  const DampingRate rate = settings.exact_damping
+                               ? DampingRate::kExact
+                               : DampingRate::kDampedFrequency;
   const std::size_t oscillators =
       static_cast<std::size_t>(count) * settings.damping_count;
   std::vector<double> peaks(oscillators);
@@ -179,7 +199,7 @@ int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
   job.count = oscillators;
   job.oscillator = [&](std::size_t o) {
     return ComputeOscillatorCoefficients(
-        omegas[o % count], settings.damping[o / count], time_step);
+        omegas[o % count], settings.damping[o / count], time_step, rate);
   };
   job.response = ResponseOfKind(settings.kind);
   job.peaks = peaks.data();
@@ -190,6 +210,7 @@ int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
   doc.SetAxisTitle(1, doc.BuildYAxisTitle());
   doc.SetAxisTitle(0, "Period Tn (sec)");
   doc.title = "Earthquake Response Spectrum";
+  if (settings.exact_damping) doc.title += " (exact)";
   doc.subtitle = settings.record_name;
   SetUpChart(doc);
   doc.SetDampingLegend();

@@ -7,6 +7,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "core/document/curve_document.h"
 #include "core/document/messages.h"
@@ -30,6 +31,12 @@ struct SpectrumSettings {
   int period_count = 200;
   int kind = kPseudoAcceleration;
   bool log_axis = false;
+  // Periods spaced geometrically from the first period to "to", both
+  // included, instead of the half-open linear grid.
+  bool log_grid = false;
+  // The textbook decay rate in the step (DampingRate::kExact); the chart and
+  // the titles then say "(exact)".
+  bool exact_damping = false;
   // The record's values stay in g and acceleration ordinates are not
   // divided by g.
   bool results_in_g = false;
@@ -38,6 +45,15 @@ struct SpectrumSettings {
 // The first period of the grid: "from", raised to kLowestLogPeriod on a
 // logarithmic period axis and for the tripartite kind.
 double FirstPeriod(const SpectrumSettings& settings);
+
+// The N periods of the grid: the half-open linear grid from FirstPeriod (a
+// period of 0 replaced by kZeroPeriod), or the log-spaced one.
+std::vector<double> SpectrumPeriods(const SpectrumSettings& settings);
+
+// Shows the message of the first setting outside what the computation takes
+// (see ComputeResponseSpectrum) and returns false; true when all are fine.
+bool CheckSpectrumSettings(const SpectrumSettings& settings,
+                           MessageSink& messages);
 
 // Fills a new document with the settings as the dialog does before the
 // record is read: unit and type words by kind, scales, record name, the
@@ -67,7 +83,8 @@ struct SpectrumRun {
 // PrepareSpectrumDocument; nothing is read back from it but its unit.
 // Returns 1, or 0 after a message when the settings are outside what the
 // dialog passes (a period count outside 1..5000, a damping count outside
-// 1..6, an unknown kind). Damping ratios of 1 or more give ordinates of 0,
+// 1..6, an unknown kind, a log-spaced grid with a first or last period of 0
+// or less). Damping ratios of 1 or more give ordinates of 0,
 // as does a time step of 0.
 int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
                             std::span<const RecordSample> record,

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "core/document/c_format.h"
 #include "core/records/record_fixtures.h"
 
 namespace zel {
@@ -41,11 +42,13 @@ std::vector<double> Quake(int n) {
 // exact response to a step A of ground acceleration is
 // d = -A/w^2 (1 - e^(-zeta w t) (cos wd t + zeta / sqrt(1 - zeta^2) sin wd t)),
 // d' = -A/wd e^(-zeta w t) sin wd t, and d'' + A = -w^2 d - 2 zeta w d';
-// to a ramp r t, undamped, d = -r (t - sin(wt) / w) / w^2.
+// to a ramp r t, d = -r (t - 2 zeta / w) / w^2 + e^(-zeta w t) (c1 cos wd t +
+// c2 sin wd t) with c1 = -2 zeta r / w^3, c2 = (r / w^2 + zeta w c1) / wd.
 TEST(ResponseSpectrumTest, StepAndRampMatchTheClosedForms) {
   // Period 1 s, 1 s of record at 0.005 s, the exact responses taken at the
-  // samples. Light damping agrees to 1e-4: ZEL's rotation rate (from wd,
-  // not w) departs from the exact oscillator, more so in the velocity.
+  // samples. Light damping agrees to 1e-4 by default: ZEL's rotation rate
+  // (from wd, not w) departs from the exact oscillator, more so in the
+  // velocity. The exact rate agrees to rounding.
   const double a = 0.3, g = 9815.0, w = kTwoPiZel, dt = 0.005;
   const std::string step = EvenRecord(std::vector<double>(201, a), dt);
   const struct {
@@ -58,7 +61,15 @@ TEST(ResponseSpectrumTest, StepAndRampMatchTheClosedForms) {
                {"Relative Velocity (mm/sec)", "VELO", "MM"},
                {"Relative Displacement (mm)", "DISP", "MM"},
                {"Pseudo Velocity (mm/sec)", "VELO", "MM"}};
-  for (double zeta : {0.0, 0.02}) {
+  const struct {
+    double zeta;
+    bool exact;
+    double tolerance;
+  } cases[] = {{0.0, false, 1e-9},
+               {0.02, false, 1e-4},
+               {0.05, true, 1e-10},
+               {0.2, true, 1e-10}};
+  for (const auto [zeta, exact, tolerance] : cases) {
     const double root = std::sqrt(1 - zeta * zeta), wd = w * root;
     double sd = 0, sv = 0, sa = 0;
     for (int i = 1; i <= 200; ++i) {
@@ -71,23 +82,26 @@ TEST(ResponseSpectrumTest, StepAndRampMatchTheClosedForms) {
       sv = std::max(sv, std::fabs(v));
       sa = std::max(sa, std::fabs(w * w * d + 2 * zeta * w * v) / g);
     }
-    const double exact[] = {sd * w * w / g, sd * w, sa, sv, sd, sd * w};
+    const double closed[] = {sd * w * w / g, sd * w, sa, sv, sd, sd * w};
     for (int kind = 0; kind < 6; ++kind) {
       SCOPED_TRACE(::testing::Message() << zeta << " " << kind);
-      const CZELwDoc doc = SpectrumOf(step, Settings(kind, {zeta}, 1, 2, 1));
-      EXPECT_NEAR(Ordinate(doc, 0, 0), exact[kind],
-                  exact[kind] * (zeta == 0 ? 1e-9 : 1e-4));
+      SpectrumSettings settings = Settings(kind, {zeta}, 1, 2, 1);
+      settings.exact_damping = exact;
+      const CZELwDoc doc = SpectrumOf(step, settings);
+      EXPECT_NEAR(Ordinate(doc, 0, 0), closed[kind], closed[kind] * tolerance);
       EXPECT_EQ(doc.AxisTitle(1), kinds[kind].title);
       EXPECT_EQ(doc.type, kinds[kind].type);
       EXPECT_EQ(doc.unit, kinds[kind].unit);
       EXPECT_EQ(doc.tripartite, kind == 5 ? 1 : 0);
       EXPECT_EQ(doc.log_x + doc.log_y, kind == 5 ? 2 : 0);
-      EXPECT_EQ(doc.window_title, "Earthquake Response Spectrum");
+      EXPECT_EQ(doc.window_title, exact ? "Earthquake Response Spectrum (exact)"
+                                        : "Earthquake Response Spectrum");
       EXPECT_EQ(doc.subtitle, "test");
       EXPECT_EQ(doc.AxisTitle(0), "Period Tn (sec)");
-      EXPECT_EQ(doc.chart.legend.title, "Damping :");
+      EXPECT_EQ(doc.chart.legend.title,
+                exact ? "Damping : (exact)" : "Damping :");
       EXPECT_THAT(doc.chart.legend.entries,
-                  ElementsAre(zeta == 0 ? " 0.00" : " 0.02"));
+                  ElementsAre(CFormat(" %1.2f", zeta)));
       EXPECT_EQ(doc.axis_display, 1);
     }
   }
@@ -98,12 +112,25 @@ TEST(ResponseSpectrumTest, StepAndRampMatchTheClosedForms) {
   const double rate = 0.2;  // g per second
   std::vector<double> ramp(1000);
   for (int i = 0; i < 1000; ++i) ramp[i] = rate * (i + 1) * dt;
-  for (double period : {0.37, 1.3, 4.1}) {
-    const CZELwDoc doc = SpectrumOf(EvenRecord(ramp, dt, dt),
-                                    Settings(4, {0.0}, period, 2 * period, 1));
-    const double w = kTwoPiZel / period, t = 1000 * dt;
-    const double d_end = rate * g * (t - std::sin(w * t) / w) / (w * w);
-    EXPECT_NEAR(Ordinate(doc, 0, 0), d_end, d_end * 1e-9) << period;
+  for (double zeta : {0.0, 0.05, 0.2}) {
+    for (double period : {0.37, 1.3, 4.1}) {
+      SpectrumSettings settings = Settings(4, {zeta}, period, 2 * period, 1);
+      settings.exact_damping = zeta > 0;
+      const CZELwDoc doc = SpectrumOf(EvenRecord(ramp, dt, dt), settings);
+      const double w = kTwoPiZel / period, r = rate * g;
+      const double wd = w * std::sqrt(1 - zeta * zeta);
+      const double c1 = -2 * zeta * r / (w * w * w);
+      const double c2 = (r / (w * w) + zeta * w * c1) / wd;
+      double sd = 0;
+      for (int i = 1; i <= 1000; ++i) {
+        const double t = i * dt;
+        sd = std::max(
+            sd, std::fabs(-r * (t - 2 * zeta / w) / (w * w) +
+                          std::exp(-zeta * w * t) *
+                              (c1 * std::cos(wd * t) + c2 * std::sin(wd * t))));
+      }
+      EXPECT_NEAR(Ordinate(doc, 0, 0), sd, sd * 1e-10) << zeta << " " << period;
+    }
   }
 }
 
@@ -148,6 +175,24 @@ TEST(ResponseSpectrumTest, GridZeroPeriodAndStartOfRecord) {
   EXPECT_EQ(logged.log_x, 1);
   EXPECT_EQ(logged.log_y, 0);
 
+  // Log-spaced periods: "from" and "to" included, a constant ratio; on a log
+  // axis "from" 0 is raised as before, otherwise it is refused.
+  log_axis.log_grid = true;
+  log_axis.period_to = 5.0;
+  const CZELwDoc geometric = SpectrumOf(text, log_axis);
+  EXPECT_EQ(Period(geometric, 0, 0), 0.009999999776482582);
+  EXPECT_EQ(Period(geometric, 0, 9), 5.0);
+  const double ratio = std::pow(5.0 / 0.009999999776482582, 1.0 / 9);
+  for (int j = 1; j < 10; ++j) {
+    EXPECT_NEAR(Period(geometric, 0, j) / Period(geometric, 0, j - 1), ratio,
+                1e-13);
+  }
+  log_axis.log_axis = false;
+  std::vector<std::string> messages;
+  EXPECT_EQ(SpectrumOf(text, log_axis, &messages).StoredPoints(0), 0u);
+  EXPECT_THAT(messages, ElementsAre("Error : Log-spaced periods need From and "
+                                    "To greater than 0!"));
+
   // A record whose first time is not 0 starts from rest one step earlier:
   // the same record without its sample at 0.0 (whose value is 0) and shifted
   // by one step gives the same spectrum...
@@ -173,6 +218,16 @@ TEST(ResponseSpectrumTest, GrowthAtLongPeriodsAndBadSettingsNeverBreak) {
   EXPECT_LT(Ordinate(doc, 1, 1), Ordinate(doc, 0, 1));  // 4 s: damped less
   EXPECT_GT(Ordinate(doc, 1, 4), 1e3 * Ordinate(doc, 0, 4));  // 10 s: grown
   EXPECT_GT(Ordinate(doc, 1, 8), 1e6 * Ordinate(doc, 0, 8));  // 18 s
+  // The exact rate: more damping, less response, at every period; without
+  // damping both rules give the same bits.
+  SpectrumSettings exact = Settings(4, {0.0, 0.05, 0.2}, 2.0, 20.0, 9);
+  exact.exact_damping = true;
+  const CZELwDoc textbook = SpectrumOf(text, exact);
+  const CZELwDoc undamped = SpectrumOf(text, Settings(4, {0.0}, 2.0, 20.0, 9));
+  for (int j = 0; j < 9; ++j) {
+    EXPECT_EQ(Ordinate(textbook, 0, j), Ordinate(undamped, 0, j));
+    EXPECT_LT(Ordinate(textbook, 2, j), Ordinate(textbook, 1, j));
+  }
 
   // Critical damping makes every response NaN; a NaN never replaces the
   // running peak, so the ordinates stay 0. A time step of 0 (time scale 0)
