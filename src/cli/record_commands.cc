@@ -454,55 +454,55 @@ void AddConvertRecord(CLI::App& app) {
     }
     std::cout << CFormat("%zu samples, dt = %g s\n", record.samples.size(),
                          record.time_step);
-    // `params`: the ground-motion parameters of each record, as text or CSV on
-    // standard output.
-    void AddParams(CLI::App & app) {
-      auto options = std::make_shared<RecordOptions>();
-      CLI::App* command = app.add_subcommand(
-          "params", "Print the ground-motion parameters of earthquake records");
-      command
-          ->add_option("records", options->records,
-                       "Catalog numbers (1-53) or titles, or record files")
-          ->required();
-      AddReadingOptions(command, *options);
-      command->add_flag("--csv", options->csv,
-                        "A CSV header and a row per record");
-      command->callback([options] {
-        const double amplitude = NumberIn(options->amplitude_scale,
-                                          "--amp-scale", kRecordAmplitudeRange);
-        const double time = Number(options->time_scale, "--time-scale");
-        StderrMessages messages;
-        bool failed = false;
-        if (options->csv) std::cout << GroundMotionCsvHeader();
-        for (const std::string& id : options->records) {
-          CZELwDoc doc;
-          if (!ReadRecordDocument(id, *options, amplitude, time, doc,
-                                  messages)) {
-            failed = true;
-            continue;
-          }
-          const GroundMotionParameters p = ComputeGroundMotionParameters(
-              doc.record_samples, doc.record_time_step);
-          std::cout << (options->csv
-                            ? GroundMotionCsvRow(doc.record_name, p)
-                            : GroundMotionText(doc.record_name, p) + "\n");
-        }
-        if (failed) throw CLI::RuntimeError(1);
-      });
+  });
+}
+
+// `params`: the ground-motion parameters of each record, as text or CSV on
+// standard output.
+void AddParams(CLI::App& app) {
+  auto options = std::make_shared<RecordOptions>();
+  CLI::App* command = app.add_subcommand(
+      "params", "Print the ground-motion parameters of earthquake records");
+  command
+      ->add_option("records", options->records,
+                   "Catalog numbers (1-53) or titles, or record files")
+      ->required();
+  AddReadingOptions(command, *options);
+  command->add_flag("--csv", options->csv, "A CSV header and a row per record");
+  command->callback([options] {
+    const double amplitude = NumberIn(options->amplitude_scale, "--amp-scale",
+                                      kRecordAmplitudeRange);
+    const double time = Number(options->time_scale, "--time-scale");
+    StderrMessages messages;
+    bool failed = false;
+    if (options->csv) std::cout << GroundMotionCsvHeader();
+    for (const std::string& id : options->records) {
+      CZELwDoc doc;
+      if (!ReadRecordDocument(id, *options, amplitude, time, doc, messages)) {
+        failed = true;
+        continue;
+      }
+      const GroundMotionParameters p = ComputeGroundMotionParameters(
+          doc.record_samples, doc.record_time_step);
+      std::cout << (options->csv ? GroundMotionCsvRow(doc.record_name, p)
+                                 : GroundMotionText(doc.record_name, p) + "\n");
     }
+    if (failed) throw CLI::RuntimeError(1);
+  });
+}
 
 }  // namespace
 
 void AddRecordCommands(CLI::App& app) {
-    AddCatalog(app);
-    AddHistoryCommand(app, "record",
-                      "Write the time history of earthquake records", false);
-    AddSpectrum(app);
-    AddParams(app);
-    AddHistoryCommand(
-        app, "fft",
-        "Write the normalised Fourier amplitude spectrum of records", true);
-    AddConvertRecord(app);
+  AddCatalog(app);
+  AddHistoryCommand(app, "record",
+                    "Write the time history of earthquake records", false);
+  AddSpectrum(app);
+  AddParams(app);
+  AddHistoryCommand(
+      app, "fft", "Write the normalised Fourier amplitude spectrum of records",
+      true);
+  AddConvertRecord(app);
 }
 
 }  // namespace zel::cli
