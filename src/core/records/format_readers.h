@@ -82,7 +82,7 @@ class RecordBuilder {
   Record record_;
   std::vector<std::string> channels_;
   std::vector<std::string_view> fields_;  // of the line AddValuesOf reads
-  double step_ = 0.0;  // scaled, of an evenly sampled record
+  double step_ = 0.0;                     // scaled, of an evenly sampled record
   bool timed_ = false;
   double first_step_ = 0.0;  // scaled, of a record with its own times
   double last_time_ = 0.0;
