@@ -126,6 +126,17 @@ constexpr CommandEntry kTable[] = {
      "Display program information, version number and copyright", "", kAll},
 };
 
+// The frame finds a command's action and handler by its id alone.
+constexpr bool EveryIdIsItsOwn() {
+  for (std::size_t i = 0; i < std::size(kTable); ++i) {
+    for (std::size_t j = i + 1; j < std::size(kTable); ++j) {
+      if (kTable[i].id != 0 && kTable[i].id == kTable[j].id) return false;
+    }
+  }
+  return true;
+}
+static_assert(EveryIdIsItsOwn(), "two menu entries share a command id");
+
 }  // namespace
 
 std::span<const char* const> MenuTitles() { return kMenuTitles; }
