@@ -8,9 +8,8 @@
 #include "core/document/replacing_file.h"
 
 namespace zel {
-namespace {
 
-std::string Quoted(const std::string& text) {
+std::string CsvField(std::string_view text) {
   std::string out = "\"";
   for (char c : text) {
     if (c == '"') out += '"';
@@ -19,13 +18,11 @@ std::string Quoted(const std::string& text) {
   return out + '"';
 }
 
-void AppendNumber(std::string& out, double value) {
+void AppendCsvNumber(std::string& out, double value) {
   char buffer[32];
   const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
   out.append(buffer, result.ptr);
 }
-
-}  // namespace
 
 std::string CurvesToCsv(const CZELwDoc& doc) {
   std::vector<int> curves;
@@ -45,7 +42,7 @@ std::string CurvesToCsv(const CZELwDoc& doc) {
       y_name += CFormat(" (damping %g)", doc.damping[c]);
     }
     if (c != curves.front()) out += ',';
-    out += Quoted(doc.AxisTitle(0)) + ',' + Quoted(y_name);
+    out += CsvField(doc.AxisTitle(0)) + ',' + CsvField(y_name);
   }
   out += '\n';
 
@@ -54,9 +51,9 @@ std::string CurvesToCsv(const CZELwDoc& doc) {
     for (int c : curves) {
       if (c != curves.front()) out += ',';
       if (i < doc.StoredPoints(c)) {
-        AppendNumber(out, store.Value(i, 2 * c));
+        AppendCsvNumber(out, store.Value(i, 2 * c));
         out += ',';
-        AppendNumber(out, store.Value(i, 2 * c + 1));
+        AppendCsvNumber(out, store.Value(i, 2 * c + 1));
       } else {
         out += ',';
       }
@@ -68,12 +65,7 @@ std::string CurvesToCsv(const CZELwDoc& doc) {
 
 bool WriteCsvFile(const CZELwDoc& doc, const std::string& path,
                   MessageSink& messages) {
-  ReplacingFile file(path);
-  if (!(file.Write(CurvesToCsv(doc)) && file.Commit())) {
-    messages.ShowFileError(path, file.error());
-    return false;
-  }
-  return true;
+  return WriteWholeFile(path, CurvesToCsv(doc), messages);
 }
 
 }  // namespace zel

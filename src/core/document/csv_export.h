@@ -3,11 +3,18 @@
 #define ZEL_CORE_DOCUMENT_CSV_EXPORT_H_
 
 #include <string>
+#include <string_view>
 
 #include "core/document/curve_document.h"
 #include "core/document/messages.h"
 
 namespace zel {
+
+// A CSV field: quoted, with its inner quotes doubled.
+std::string CsvField(std::string_view text);
+
+// Appends `value` in the shortest text that reads back as the same double.
+void AppendCsvNumber(std::string& out, double value);
 
 // Every curve that holds values, as x,y column pairs. The header row names
 // the axis titles, the document title and, for response spectra, the damping

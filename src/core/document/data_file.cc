@@ -304,12 +304,7 @@ bool WriteDataFile(const CZELwDoc& doc, const std::string& path,
   }
   out += "*ENDDATA";
 
-  ReplacingFile file(path);
-  if (!(file.Write(out) && file.Commit())) {
-    messages.ShowFileError(path, file.error());
-    return false;
-  }
-  return true;
+  return WriteWholeFile(path, out, messages);
 }
 
 int ReadDataFile(CZELwDoc& doc, InputFile file, MessageSink& messages) {

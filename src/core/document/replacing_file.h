@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/document/messages.h"
+
 namespace zel {
 
 class ReplacingFile {
@@ -42,6 +44,11 @@ class ReplacingFile {
   int fd_ = -1;
   int error_ = 0;
 };
+
+// Replaces `path` with `text` through a ReplacingFile; on failure shows the
+// path and the system's reason and leaves the old file as it was.
+bool WriteWholeFile(const std::string& path, std::string_view text,
+                    MessageSink& messages);
 
 }  // namespace zel
 

@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "core/document/c_format.h"
+#include "core/document/csv_export.h"
 #include "core/records/oscillator.h"
 #include "core/records/spectrum_kernel.h"
 
@@ -218,12 +219,7 @@ std::string GroundMotionCsvHeader() {
 
 std::string GroundMotionCsvRow(const std::string& record_name,
                                const GroundMotionParameters& p) {
-  std::string row = "\"";
-  for (char c : record_name) {
-    row += c;
-    if (c == '"') row += c;
-  }
-  row += "\"";
+  std::string row = CsvField(record_name);
   for (const ParameterRow& r : GroundMotionRows(p)) {
     row += CFormat(",%.10g", r.value);
   }

@@ -20,12 +20,7 @@ std::string DbsText(const Record& record) {
 
 bool WriteDbsRecord(const Record& record, const std::string& path,
                     MessageSink& messages) {
-  ReplacingFile file(path);
-  if (file.is_open() && file.Write(DbsText(record)) && file.Commit()) {
-    return true;
-  }
-  messages.ShowFileError(path, file.error());
-  return false;
+  return WriteWholeFile(path, DbsText(record), messages);
 }
 
 }  // namespace zel
