@@ -12,15 +12,12 @@
 #include <system_error>
 #include <thread>
 
+#include "cli/stderr_messages.h"
+
 namespace zel::cli {
 namespace {
 
 namespace fs = std::filesystem;
-
-[[noreturn]] void Fail(const std::string& text) {
-  std::cerr << text << '\n';
-  throw CLI::RuntimeError(1);
-}
 
 bool IsFolder(const std::string& path) {
   std::error_code error;
@@ -78,8 +75,7 @@ void WorkOn(const BatchRecord& record, std::size_t i, RecordOutcome& outcome,
 
 void RecordMessages::ShowFileError(std::string_view path, int error_number) {
   Show(kFileNotFoundMessage);
-  Show(std::string(path) + ": " +
-       std::error_code(error_number, std::generic_category()).message());
+  Show(FileErrorDetail(path, error_number));
 }
 
 std::vector<BatchRecord> PlanBatch(
@@ -108,8 +104,8 @@ std::vector<BatchRecord> PlanBatch(
   std::error_code error;
   fs::create_directories(output, error);
   if (!IsFolder(output)) {
-    Fail("-o: " + output +
-         " must be a folder for the outputs of several records");
+    FailWithMessage("-o: " + output +
+                    " must be a folder for the outputs of several records");
   }
   std::map<std::string, std::string> written_by;
   for (BatchRecord& record : records) {

@@ -49,8 +49,7 @@ class RecordMessages : public MessageLog {
 struct RecordOutcome {
   bool ok = false;
   RecordMessages messages;
-  std::string out;      // for standard output, a line each
-  std::string summary;  // a row of the summary table
+  std::string out;  // for standard output, a line each
 };
 
 // Runs work(i, outcome, threads) for every record i, several records at a

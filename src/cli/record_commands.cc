@@ -4,10 +4,8 @@
 #include <charconv>
 #include <cmath>
 #include <filesystem>
-#include <iomanip>
 #include <iostream>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,6 +16,7 @@
 #include "cli/record_batch.h"
 #include "cli/stderr_messages.h"
 #include "core/document/c_format.h"
+#include "core/document/csv_export.h"
 #include "core/document/curve_document.h"
 #include "core/document/input_file.h"
 #include "core/document/replacing_file.h"
@@ -51,16 +50,11 @@ struct RecordOptions {
   std::string columns;  // "TIME,ACCEL", 1-based, 0 for no time column
 };
 
-[[noreturn]] void Fail(const std::string& text) {
-  std::cerr << text << '\n';
-  throw CLI::RuntimeError(1);
-}
-
 // The value of a number option; fails with a message naming the option when
 // the text is not a number.
 double Number(const std::string& text, const char* option) {
   if (!IsNumberText(text)) {
-    Fail(std::string(option) + ": not a number: " + text);
+    FailWithMessage(std::string(option) + ": not a number: " + text);
   }
   return AtoF(text);
 }
@@ -69,8 +63,8 @@ double NumberIn(const std::string& text, const char* option,
                 const ValueRange& range) {
   const double value = Number(text, option);
   if (!InRange(value, range)) {
-    Fail(std::string(option) +
-         CFormat(" must be %g to %g", range.min, range.max));
+    FailWithMessage(std::string(option) +
+                    CFormat(" must be %g to %g", range.min, range.max));
   }
   return value;
 }
@@ -82,11 +76,11 @@ ImportChoices ChoicesOf(const RecordOptions& options) {
   if (!options.time_step.empty()) {
     choices.time_step = Number(options.time_step, "--dt");
     if (!(choices.time_step > 0.0) || !std::isfinite(choices.time_step)) {
-      Fail("--dt must be above 0");
+      FailWithMessage("--dt must be above 0");
     }
   }
   if (!PlainUnitOfWord(options.unit, choices.unit)) {
-    Fail("--unit must be g, gal, cm/s2, m/s2 or mm/s2");
+    FailWithMessage("--unit must be g, gal, cm/s2, m/s2 or mm/s2");
   }
   if (!options.columns.empty()) {
     const std::size_t comma = options.columns.find(',');
@@ -99,7 +93,7 @@ ImportChoices ChoicesOf(const RecordOptions& options) {
           std::from_chars(text.data(), text.data() + text.size(), value);
       if (text.empty() || error != std::errc() ||
           stop != text.data() + text.size() || value < low) {
-        Fail(
+        FailWithMessage(
             "--columns takes TIME,ACCEL: column numbers from 1, 0 for no "
             "time column");
       }
@@ -109,12 +103,6 @@ ImportChoices ChoicesOf(const RecordOptions& options) {
     choices.accel_column = column(accel, 1);
   }
   return choices;
-}
-
-// The record file of `id`, opened, and its record name.
-InputFile OpenRecord(const std::string& id, const RecordOptions& options,
-                     MessageSink& messages, std::string& name) {
-  return OpenRecordArgument(id, options.base, messages, name);
 }
 
 std::vector<BatchRecord> Plan(const RecordOptions& options) {
@@ -133,15 +121,14 @@ void Finish(const std::vector<RecordOutcome>& outcomes) {
 }
 
 // Reads record `id` into a new record document, as the record dialog does.
-bool ReadRecordDocument(const std::string& id, const RecordOptions& options,
-                        double amplitude, double time, CZELwDoc& doc,
-                        MessageSink& messages) {
+bool ReadRecordDocument(const std::string& id, const std::string& base,
+                        const ImportChoices& choices, double amplitude,
+                        double time, CZELwDoc& doc, MessageSink& messages) {
   std::string name;
-  InputFile file = OpenRecord(id, options, messages, name);
+  InputFile file = OpenRecordArgument(id, base, messages, name);
   if (!file.is_open()) return false;
   PrepareRecordDocument(doc, amplitude, time, name);
-  return ShowRecordCurve(doc, std::move(file), messages, ChoicesOf(options)) ==
-         1;
+  return ShowRecordCurve(doc, std::move(file), messages, choices) == 1;
 }
 
 // The options that say how a record is read.
@@ -203,12 +190,13 @@ void AddHistoryCommand(CLI::App& app, const char* name, const char* help,
     const double amplitude = NumberIn(options->amplitude_scale, "--amp-scale",
                                       kRecordAmplitudeRange);
     const double time = Number(options->time_scale, "--time-scale");
+    const ImportChoices choices = ChoicesOf(*options);
     const std::vector<BatchRecord> records = Plan(*options);
     Finish(RunBatch(records, [&](std::size_t i, RecordOutcome& outcome, int) {
       MessageSink& messages = outcome.messages;
       CZELwDoc doc;
-      if (!ReadRecordDocument(records[i].argument, *options, amplitude, time,
-                              doc, messages)) {
+      if (!ReadRecordDocument(records[i].argument, options->base, choices,
+                              amplitude, time, doc, messages)) {
         return;
       }
       if (fourier && !SwitchTimeFrequency(doc, messages)) return;
@@ -238,7 +226,8 @@ SpectrumSettings SettingsOf(const SpectrumOptions& options) {
   SpectrumSettings s = DefaultSpectrumChoices();
   if (!options.kind.empty()) {
     s.kind = SpectrumKindOfWord(options.kind);
-    if (s.kind < 0) Fail("--kind must be psa, psv, sa, sv, sd or dva");
+    if (s.kind < 0)
+      FailWithMessage("--kind must be psa, psv, sa, sv, sd or dva");
   }
   s.amplitude_scale =
       NumberIn(options.record.amplitude_scale, "--amp-scale",
@@ -251,7 +240,8 @@ SpectrumSettings SettingsOf(const SpectrumOptions& options) {
     const double steps =
         NumberIn(options.steps, "--steps",
                  SpectrumFieldRange(SpectrumField::kPeriodCount));
-    if (steps != std::floor(steps)) Fail("--steps must be a whole number");
+    if (steps != std::floor(steps))
+      FailWithMessage("--steps must be a whole number");
     s.period_count = static_cast<int>(steps);
   }
   if (!options.to.empty()) {
@@ -268,7 +258,7 @@ SpectrumSettings SettingsOf(const SpectrumOptions& options) {
       }
     }
     if (ratios.size() > static_cast<std::size_t>(kMaxCurves)) {
-      Fail("--damping takes 1 to 6 ratios");
+      FailWithMessage("--damping takes 1 to 6 ratios");
     }
     for (std::size_t k = 0; k < ratios.size(); ++k) {
       s.damping[k] = NumberIn(ratios[k], "--damping",
@@ -286,22 +276,15 @@ SpectrumSettings SettingsOf(const SpectrumOptions& options) {
   return s;
 }
 
-// A CSV field: quoted, with its quotes doubled.
-std::string Field(const std::string& text) {
-  std::ostringstream out;
-  out << std::quoted(text, '"', '"');
-  return out.str();
-}
-
 // The summary's header: the record, its peak ground acceleration and the
 // ordinate of every damping ratio at every period of the grid.
 std::string SummaryHeader(const CZELwDoc& doc) {
   std::string row = "\"Record\",\"PGA (g)\"";
   for (int k = 0; k < doc.curve_count; ++k) {
     for (std::size_t j = 0; j < doc.StoredPoints(k); ++j) {
-      row += ',' +
-             Field(CFormat("%s at T=%g s, damping %g", doc.AxisTitle(1).c_str(),
-                           doc.store().Value(j, 2 * k), doc.damping[k]));
+      row += ',' + CsvField(CFormat(
+                       "%s at T=%g s, damping %g", doc.AxisTitle(1).c_str(),
+                       doc.store().Value(j, 2 * k), doc.damping[k]));
     }
   }
   return row + '\n';
@@ -313,15 +296,12 @@ std::string SummaryRow(const CZELwDoc& doc) {
     peak = std::max(peak, std::fabs(s.value));
   }
   const double g = doc.results_in_g == 1 ? 1.0 : doc.gravity;
-  std::string row = Field(doc.record_name) + ',' + CFormat("%.10g", peak / g);
-  char number[32];
+  std::string row =
+      CsvField(doc.record_name) + ',' + CFormat("%.10g", peak / g);
   for (int k = 0; k < doc.curve_count; ++k) {
     for (std::size_t j = 0; j < doc.StoredPoints(k); ++j) {
-      // The shortest text that reads back as the same ordinate.
-      const double value = doc.store().Value(j, 2 * k + 1);
       row += ',';
-      row.append(number,
-                 std::to_chars(number, number + sizeof number, value).ptr);
+      AppendCsvNumber(row, doc.store().Value(j, 2 * k + 1));
     }
   }
   return row + '\n';
@@ -368,20 +348,22 @@ void AddSpectrum(CLI::App& app) {
                       "ordinates");
   command->callback([options] {
     const SpectrumSettings settings = SettingsOf(*options);
+    const ImportChoices choices = ChoicesOf(options->record);
     const std::vector<BatchRecord> records = Plan(options->record);
-    std::vector<std::string> headers(records.size());
+    // The summary's header and row of each record that got a spectrum.
+    std::vector<std::string> headers(records.size()), rows(records.size());
     const std::vector<RecordOutcome> outcomes = RunBatch(
         records, [&](std::size_t i, RecordOutcome& outcome, int threads) {
           MessageSink& messages = outcome.messages;
           SpectrumSettings s = settings;
-          InputFile file = OpenRecord(records[i].argument, options->record,
-                                      messages, s.record_name);
+          InputFile file =
+              OpenRecordArgument(records[i].argument, options->record.base,
+                                 messages, s.record_name);
           if (!file.is_open()) return;
           CZELwDoc doc;
           PrepareSpectrumDocument(doc, s);
           if (ReadRecordFile(doc, std::move(file), messages,
-                             TimeStepUse::kNeeded,
-                             ChoicesOf(options->record)) != 1) {
+                             TimeStepUse::kNeeded, choices) != 1) {
             messages.Show(kRecordReadFailedMessage);
             return;
           }
@@ -396,19 +378,20 @@ void AddSpectrum(CLI::App& app) {
           }
           if (!options->summary.empty()) {
             headers[i] = SummaryHeader(doc);
-            outcome.summary = SummaryRow(doc);
+            rows[i] = SummaryRow(doc);
           }
           outcome.ok = true;
         });
     std::string table;
     for (std::size_t i = 0; i < outcomes.size(); ++i) {
       if (table.empty()) table = headers[i];
-      table += outcomes[i].summary;
+      table += rows[i];
     }
     if (!table.empty()) {
       ReplacingFile file(options->summary);
       if (!(file.is_open() && file.Write(table) && file.Commit())) {
-        Fail(std::string(kFileNotFoundMessage) + " " + options->summary);
+        FailWithMessage(std::string(kFileNotFoundMessage) + " " +
+                        options->summary);
       }
     }
     Finish(outcomes);
@@ -440,8 +423,8 @@ void AddConvertRecord(CLI::App& app) {
     reading.choices = ChoicesOf(options->record);
     StderrMessages messages;
     std::string name;
-    InputFile file =
-        OpenRecord(options->input, options->record, messages, name);
+    InputFile file = OpenRecordArgument(options->input, options->record.base,
+                                        messages, name);
     if (!file.is_open()) throw CLI::RuntimeError(1);
     Record record;
     if (ReadRecord(std::move(file), reading, record, messages) !=
@@ -473,12 +456,14 @@ void AddParams(CLI::App& app) {
     const double amplitude = NumberIn(options->amplitude_scale, "--amp-scale",
                                       kRecordAmplitudeRange);
     const double time = Number(options->time_scale, "--time-scale");
+    const ImportChoices choices = ChoicesOf(*options);
     StderrMessages messages;
     bool failed = false;
     if (options->csv) std::cout << GroundMotionCsvHeader();
     for (const std::string& id : options->records) {
       CZELwDoc doc;
-      if (!ReadRecordDocument(id, *options, amplitude, time, doc, messages)) {
+      if (!ReadRecordDocument(id, options->base, choices, amplitude, time, doc,
+                              messages)) {
         failed = true;
         continue;
       }

@@ -1,7 +1,5 @@
 #include "cli/scale_command.h"
 
-#include <cerrno>
-#include <fstream>
 #include <iostream>
 #include <map>
 #include <memory>
@@ -15,7 +13,9 @@
 #include "cli/record_argument.h"
 #include "cli/stderr_messages.h"
 #include "core/document/c_format.h"
+#include "core/document/csv_export.h"
 #include "core/document/input_file.h"
+#include "core/document/replacing_file.h"
 #include "core/records/record_choice.h"
 #include "core/records/record_curve.h"
 #include "core/records/record_reader.h"
@@ -144,16 +144,6 @@ RecordInput Input(const LoadedRecord& record) {
           record.doc.record_time_step};
 }
 
-// A CSV field: quoted, with inner quotes doubled.
-std::string Quoted(const std::string& text) {
-  std::string out = "\"";
-  for (char c : text) {
-    if (c == '"') out += '"';
-    out += c;
-  }
-  return out + "\"";
-}
-
 void RunScale(const ScaleOptions& options) {
   const CodeEntry* code = FindDesignCode(options.code);
   if (code == nullptr) {
@@ -216,14 +206,13 @@ void RunScale(const ScaleOptions& options) {
   if (options.output.empty()) return;
   std::string csv = "record,factor,misfit\n";
   for (std::size_t i = 0; i < records.size(); ++i) {
-    csv += Quoted(records[i].argument) +
+    csv += CsvField(records[i].argument) +
            CFormat(",%.6f,%.6f\n", result.factor,
                    LogMisfit(spectra[i], target.code, result.factor));
   }
-  csv += Quoted("mean") + CFormat(",%.6f,%.6f\n", result.factor, result.misfit);
-  std::ofstream out(options.output, std::ios::binary);
-  if (!(out << csv) || !out.flush()) {
-    messages.ShowFileError(options.output, errno);
+  csv +=
+      CsvField("mean") + CFormat(",%.6f,%.6f\n", result.factor, result.misfit);
+  if (!WriteWholeFile(options.output, csv, messages)) {
     throw CLI::RuntimeError(1);
   }
 }
