@@ -212,7 +212,7 @@ void RunScale(const ScaleOptions& options) {
   }
   csv +=
       CsvField("mean") + CFormat(",%.6f,%.6f\n", result.factor, result.misfit);
-  if (!WriteWholeFile(options.output, csv, messages)) {
+  if (!WriteTextFile(options.output, csv, messages)) {
     throw CLI::RuntimeError(1);
   }
 }

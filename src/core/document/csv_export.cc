@@ -65,7 +65,7 @@ std::string CurvesToCsv(const CZELwDoc& doc) {
 
 bool WriteCsvFile(const CZELwDoc& doc, const std::string& path,
                   MessageSink& messages) {
-  return WriteWholeFile(path, CurvesToCsv(doc), messages);
+  return WriteTextFile(path, CurvesToCsv(doc), messages);
 }
 
 }  // namespace zel

@@ -304,7 +304,7 @@ bool WriteDataFile(const CZELwDoc& doc, const std::string& path,
   }
   out += "*ENDDATA";
 
-  return WriteWholeFile(path, out, messages);
+  return WriteTextFile(path, out, messages);
 }
 
 int ReadDataFile(CZELwDoc& doc, InputFile file, MessageSink& messages) {

@@ -144,8 +144,8 @@ bool ReplacingFile::Commit() {
   return true;
 }
 
-bool WriteWholeFile(const std::string& path, std::string_view text,
-                    MessageSink& messages) {
+bool WriteTextFile(const std::string& path, std::string_view text,
+                   MessageSink& messages) {
   ReplacingFile file(path);
   if (file.Write(text) && file.Commit()) return true;
   messages.ShowFileError(path, file.error());

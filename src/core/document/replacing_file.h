@@ -47,8 +47,8 @@ class ReplacingFile {
 
 // Replaces `path` with `text` through a ReplacingFile; on failure shows the
 // path and the system's reason and leaves the old file as it was.
-bool WriteWholeFile(const std::string& path, std::string_view text,
-                    MessageSink& messages);
+bool WriteTextFile(const std::string& path, std::string_view text,
+                   MessageSink& messages);
 
 }  // namespace zel
 

@@ -20,7 +20,7 @@ std::string DbsText(const Record& record) {
 
 bool WriteDbsRecord(const Record& record, const std::string& path,
                     MessageSink& messages) {
-  return WriteWholeFile(path, DbsText(record), messages);
+  return WriteTextFile(path, DbsText(record), messages);
 }
 
 }  // namespace zel
