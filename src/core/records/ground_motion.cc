@@ -7,7 +7,7 @@
 #include "core/document/c_format.h"
 #include "core/document/csv_export.h"
 #include "core/records/oscillator.h"
-#include "core/records/spectrum_kernel.h"
+#include "core/records/response_spectrum.h"
 
 namespace zel {
 namespace {
@@ -80,21 +80,14 @@ void FindBracket(std::span<const RecordSample> record,
 void FindPredominantPeriod(std::span<const RecordSample> record,
                            double time_step, GroundMotionParameters& p) {
   if (!(time_step > 0.0) || record.empty()) return;
-  std::vector<double> accel(record.size());
-  for (std::size_t i = 0; i < record.size(); ++i) accel[i] = record[i].value;
-  const std::vector<double> forcing =
-      BuildForcing(accel, record[0].time == 0.0);
   std::vector<double> omegas(kPredominantPeriods);
-  std::vector<OscillatorCoefficients> oscillators(kPredominantPeriods);
   for (int j = 0; j < kPredominantPeriods; ++j) {
     omegas[j] =
         2.0 * std::numbers::pi /
         LogGridPeriod(kPredominantFrom, kPredominantTo, kPredominantPeriods, j);
-    oscillators[j] = ComputeOscillatorCoefficients(
-        omegas[j], kPredominantDamping, time_step, DampingRate::kExact);
   }
-  std::vector<double> peaks(kPredominantPeriods);
-  IntegratePeaks(forcing, oscillators, PeakResponse::kDisplacement, peaks);
+  const std::vector<double> peaks = PeakDisplacements(
+      record, time_step, omegas, kPredominantDamping, DampingRate::kExact);
   for (int j = 0; j < kPredominantPeriods; ++j) {
     const double psa = peaks[j] * omegas[j] * omegas[j];
     if (psa > p.predominant_psa) {

@@ -176,10 +176,7 @@ int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
     doc.ToggleLogX();
   }
 
-  std::vector<double> accel(record.size());
-  for (std::size_t i = 0; i < record.size(); ++i) accel[i] = record[i].value;
-  const std::vector<double> forcing =
-      BuildForcing(accel, !record.empty() && record[0].time == 0.0);
+  const std::vector<double> forcing = RecordForcing(record);
 
   const int count = settings.period_count;
   const std::vector<double> periods = SpectrumPeriods(settings);
@@ -218,6 +215,28 @@ int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
   doc.SetTitle(doc.title);
   doc.UpdateAllViews();
   return 1;
+}
+
+std::vector<double> RecordForcing(std::span<const RecordSample> record) {
+  std::vector<double> accel(record.size());
+  for (std::size_t i = 0; i < record.size(); ++i) accel[i] = record[i].value;
+  return BuildForcing(accel, !record.empty() && record[0].time == 0.0);
+}
+
+std::vector<double> PeakDisplacements(std::span<const RecordSample> record,
+                                      double time_step,
+                                      std::span<const double> omegas,
+                                      double zeta, DampingRate rate) {
+  std::vector<OscillatorCoefficients> oscillators;
+  oscillators.reserve(omegas.size());
+  for (double omega : omegas) {
+    oscillators.push_back(
+        ComputeOscillatorCoefficients(omega, zeta, time_step, rate));
+  }
+  std::vector<double> peaks(omegas.size());
+  IntegratePeaks(RecordForcing(record), oscillators,
+                 PeakResponse::kDisplacement, peaks);
+  return peaks;
 }
 
 }  // namespace zel

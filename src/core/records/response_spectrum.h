@@ -11,6 +11,7 @@
 
 #include "core/document/curve_document.h"
 #include "core/document/messages.h"
+#include "core/records/oscillator.h"
 #include "core/records/spectrum_kernel.h"
 
 namespace zel {
@@ -90,6 +91,17 @@ int ComputeResponseSpectrum(CZELwDoc& doc, const SpectrumSettings& settings,
                             std::span<const RecordSample> record,
                             double time_step, MessageSink& messages,
                             const SpectrumRun& run = {});
+
+// BuildForcing of a record's accelerations; a record whose first sample is at
+// time 0 starts from the ground at rest.
+std::vector<double> RecordForcing(std::span<const RecordSample> record);
+
+// The peak relative displacement under `record` of an oscillator of each
+// circular frequency in `omegas` with damping ratio `zeta`.
+std::vector<double> PeakDisplacements(std::span<const RecordSample> record,
+                                      double time_step,
+                                      std::span<const double> omegas,
+                                      double zeta, DampingRate rate);
 
 }  // namespace zel
 

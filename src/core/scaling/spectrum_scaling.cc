@@ -6,7 +6,7 @@
 
 #include "core/document/c_format.h"
 #include "core/records/oscillator.h"
-#include "core/records/spectrum_kernel.h"
+#include "core/records/response_spectrum.h"
 
 namespace zel {
 
@@ -78,21 +78,11 @@ std::vector<double> PseudoAccelerations(std::span<const RecordSample> record,
                                         double time_step,
                                         std::span<const double> periods,
                                         double damping) {
-  std::vector<double> accel;
-  accel.reserve(record.size());
-  for (const RecordSample& sample : record) accel.push_back(sample.value);
-  const bool starts_at_zero = !record.empty() && record[0].time == 0.0;
-  const std::vector<double> forcing = BuildForcing(accel, starts_at_zero);
-
-  std::vector<OscillatorCoefficients> oscillators;
   std::vector<double> omegas;
-  for (double period : periods) {
-    omegas.push_back(kSpectrumTwoPi / period);
-    oscillators.push_back(
-        ComputeOscillatorCoefficients(omegas.back(), damping, time_step));
-  }
-  std::vector<double> peaks(periods.size());
-  IntegratePeaks(forcing, oscillators, PeakResponse::kDisplacement, peaks);
+  omegas.reserve(periods.size());
+  for (double period : periods) omegas.push_back(kSpectrumTwoPi / period);
+  std::vector<double> peaks = PeakDisplacements(
+      record, time_step, omegas, damping, DampingRate::kDampedFrequency);
   for (std::size_t j = 0; j < peaks.size(); ++j) {
     peaks[j] *= omegas[j] * omegas[j];
   }
