@@ -168,10 +168,8 @@ void RunScale(const ScaleOptions& options) {
     Load(options, records[i], messages);
   }
   if (!single.empty()) {
-    std::vector<double> spectrum;
     ScaleResult result;
-    if (!ScaleRecord(Input(records[0]), target, settings, spectrum, result,
-                     messages)) {
+    if (!ScaleRecord(Input(records[0]), target, settings, result, messages)) {
       throw CLI::RuntimeError(1);
     }
     std::cout << ScaleResultText(target, settings, result) << '\n';

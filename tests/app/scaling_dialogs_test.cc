@@ -90,10 +90,9 @@ TEST_F(ScalingDialogsTest, ScaleMakesTheScaledRecordAndTheComparison) {
   ScalingTarget target;
   ASSERT_TRUE(
       MakeScalingTarget(code, DefaultValues(code), settings, target, log));
-  std::vector<double> spectrum;
   ScaleResult result;
   ASSERT_TRUE(ScaleRecord({"", record->record_samples, 0.02}, target, settings,
-                          spectrum, result, log));
+                          result, log));
   const auto windows =
       frame().mdi_area()->subWindowList(QMdiArea::CreationOrder);
   const CZELwDoc& scaled = static_cast<CChildFrame*>(windows[1])->GetDocument();

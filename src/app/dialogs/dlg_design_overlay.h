@@ -6,7 +6,7 @@
 
 #include <QDialog>
 
-#include "app/dialogs/scratch_host.h"
+#include "app/dialogs/dialog_host.h"
 #include "core/document/curve_document.h"
 
 class QComboBox;
@@ -17,7 +17,7 @@ class DLG_DESIGN_OVERLAY : public QDialog {
   Q_OBJECT
 
  public:
-  DLG_DESIGN_OVERLAY(DialogHost& host, CZELwDoc& target, DialogRunner run,
+  DLG_DESIGN_OVERLAY(DialogHost& host, CZELwDoc& target,
                      QWidget* parent = nullptr);
 
   QComboBox* codes() const { return codes_; }
@@ -30,7 +30,6 @@ class DLG_DESIGN_OVERLAY : public QDialog {
  private:
   DialogHost& host_;
   CZELwDoc& target_;
-  DialogRunner run_;
   QComboBox* codes_;
 };
 

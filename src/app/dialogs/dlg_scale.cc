@@ -10,10 +10,10 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
-#include <utility>
 
 #include "app/dialogs/design_code_dialog.h"
 #include "app/dialogs/ok_cancel_buttons.h"
+#include "app/dialogs/scratch_host.h"
 #include "core/document/c_format.h"
 #include "core/scaling/record_scaling.h"
 
@@ -30,12 +30,10 @@ double Read(const QLineEdit* edit) { return AtoF(edit->text().toStdString()); }
 
 }  // namespace
 
-DLG_SCALE::DLG_SCALE(DialogHost& host, const CZELwDoc& record, DialogRunner run,
-                     QWidget* parent)
+DLG_SCALE::DLG_SCALE(DialogHost& host, const CZELwDoc& record, QWidget* parent)
     : QDialog(parent),
       host_(host),
       record_(record),
-      run_(std::move(run)),
       codes_(new QComboBox),
       parameters_note_(new QLabel),
       absolute_(new QRadioButton(tr("From / To (sec)"))),
@@ -124,7 +122,7 @@ void DLG_SCALE::OnCodeChanged() {
 void DLG_SCALE::OnParameters() {
   ScratchHost scratch(host_);
   DesignCodeDialog dialog(scratch, Code(), this);
-  if (run_(dialog) != QDialog::Accepted) return;
+  if (host_.RunDialog(dialog) != QDialog::Accepted) return;
   values_ = dialog.Values();
   parameters_note_->setText(tr("(as entered)"));
 }
@@ -160,9 +158,8 @@ void DLG_SCALE::accept() {
   if (!MakeScalingTarget(Code(), values_, settings, target, messages)) return;
   const RecordInput input{record_.record_name, record_.record_samples,
                           record_.record_time_step};
-  std::vector<double> spectrum;
   ScaleResult result;
-  if (!ScaleRecord(input, target, settings, spectrum, result, messages)) {
+  if (!ScaleRecord(input, target, settings, result, messages)) {
     return;
   }
   if (CZELwDoc* scaled = host_.NewDocument(kNewDocumentRecord)) {

@@ -9,7 +9,7 @@
 
 #include <QDialog>
 
-#include "app/dialogs/scratch_host.h"
+#include "app/dialogs/dialog_host.h"
 #include "core/codes/code_registry.h"
 #include "core/document/curve_document.h"
 #include "core/scaling/spectrum_scaling.h"
@@ -25,7 +25,7 @@ class DLG_SCALE : public QDialog {
   Q_OBJECT
 
  public:
-  DLG_SCALE(DialogHost& host, const CZELwDoc& record, DialogRunner run,
+  DLG_SCALE(DialogHost& host, const CZELwDoc& record,
             QWidget* parent = nullptr);
 
   // The settings as the fields read (numbers with atof).
@@ -53,7 +53,6 @@ class DLG_SCALE : public QDialog {
 
   DialogHost& host_;
   const CZELwDoc& record_;
-  DialogRunner run_;
   ParamValues values_;
   QComboBox* codes_;
   QLabel* parameters_note_;

@@ -4,17 +4,9 @@
 #ifndef ZEL_APP_DIALOGS_SCRATCH_HOST_H_
 #define ZEL_APP_DIALOGS_SCRATCH_HOST_H_
 
-#include <functional>
-
 #include "app/dialogs/dialog_host.h"
 
-class QDialog;
-
 namespace zel::app {
-
-// Runs a modal dialog and returns its result (the application's runner, so
-// that tests can answer it).
-using DialogRunner = std::function<int(QDialog&)>;
 
 class ScratchHost : public DialogHost {
  public:

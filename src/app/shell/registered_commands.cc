@@ -54,11 +54,6 @@ void RunGenerateDialog(CMainFrame& frame) {
   frame.app().RunDialog(dialog);
 }
 
-// The application's dialog runner, for a dialog that opens another one.
-DialogRunner Runner(CZELwApp& app) {
-  return [&app](QDialog& dialog) { return app.RunDialog(dialog); };
-}
-
 }  // namespace
 
 void RegisterCommands(CommandRegistry& registry) {
@@ -86,7 +81,7 @@ void RegisterCommands(CommandRegistry& registry) {
         !CanAddDesignSpectrum(child->GetDocument(), app.messages())) {
       return;
     }
-    DLG_DESIGN_OVERLAY dialog(app, child->GetDocument(), Runner(app), &frame);
+    DLG_DESIGN_OVERLAY dialog(app, child->GetDocument(), &frame);
     app.RunDialog(dialog);
   });
   registry.Register(ID_SCALE_TO_DESIGN, [](CMainFrame& frame) {
@@ -96,7 +91,7 @@ void RegisterCommands(CommandRegistry& registry) {
       app.messages().Show(kScaleNeedsRecordMessage);
       return;
     }
-    DLG_SCALE dialog(app, child->GetDocument(), Runner(app), &frame);
+    DLG_SCALE dialog(app, child->GetDocument(), &frame);
     app.RunDialog(dialog);
   });
 

@@ -56,11 +56,12 @@ void MakeScaledRecord(CZELwDoc& scaled, const CZELwDoc& record, double factor) {
 }
 
 bool ScaleRecord(const RecordInput& record, const ScalingTarget& target,
-                 const ScalingSettings& settings, std::vector<double>& spectrum,
-                 ScaleResult& result, MessageSink& messages) {
-  spectrum = PseudoAccelerations(record.samples, record.time_step,
-                                 target.periods, settings.damping);
-  return ComputeScaleFactor(spectrum, target.code, settings, result, messages);
+                 const ScalingSettings& settings, ScaleResult& result,
+                 MessageSink& messages) {
+  return ComputeScaleFactor(
+      PseudoAccelerations(record.samples, record.time_step, target.periods,
+                          settings.damping),
+      target.code, settings, result, messages);
 }
 
 bool ScaleSuite(std::span<const RecordInput> records,

@@ -47,11 +47,11 @@ bool HoldsRecord(const CZELwDoc& doc);
 // record document read with the factor times its amplitude scale.
 void MakeScaledRecord(CZELwDoc& scaled, const CZELwDoc& record, double factor);
 
-// Scales a record: its pseudo-acceleration spectrum at the matching periods
-// (`spectrum`, unscaled) and the factor by the settings' rule.
+// Scales a record: the factor by the settings' rule on its pseudo-acceleration
+// spectrum at the matching periods.
 bool ScaleRecord(const RecordInput& record, const ScalingTarget& target,
-                 const ScalingSettings& settings, std::vector<double>& spectrum,
-                 ScaleResult& result, MessageSink& messages);
+                 const ScalingSettings& settings, ScaleResult& result,
+                 MessageSink& messages);
 
 // Scales a suite with one factor common to all its records, chosen by the
 // rule for the suite's mean spectrum: a common factor keeps the records'

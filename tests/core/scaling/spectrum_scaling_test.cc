@@ -131,15 +131,13 @@ TEST(RecordScalingTest, OwnSpectrumHalvedRecordAndSuite) {
   const std::vector<RecordSample> own = Record(1.0);
   const std::vector<RecordSample> half = Record(0.5);
   const std::vector<RecordSample> more = Record(3.5);
-  std::vector<double> spectrum;
   for (ScaleRule rule : {ScaleRule::kLeastSquares, ScaleRule::kMinimum}) {
     const ScalingSettings settings = Settings(rule, 1.0);
     ScaleResult result;
-    ASSERT_TRUE(ScaleRecord({"own", own, 0.01}, target, settings, spectrum,
-                            result, log));
+    ASSERT_TRUE(ScaleRecord({"own", own, 0.01}, target, settings, result, log));
     EXPECT_NEAR(result.factor, 1.0, 1e-12);
-    ASSERT_TRUE(ScaleRecord({"half", half, 0.01}, target, settings, spectrum,
-                            result, log));
+    ASSERT_TRUE(
+        ScaleRecord({"half", half, 0.01}, target, settings, result, log));
     EXPECT_NEAR(result.factor, 2.0, 1e-12);
     EXPECT_NEAR(result.misfit, 0.0, 1e-12);
 
@@ -165,10 +163,9 @@ TEST(RecordScalingTest, EveryCodeGivesATargetAndAFactor) {
     ASSERT_TRUE(
         MakeScalingTarget(code, DefaultValues(code), settings, target, log))
         << (log.texts().empty() ? "" : log.texts()[0]);
-    std::vector<double> spectrum;
     ScaleResult result;
-    ASSERT_TRUE(ScaleRecord({"r", record, 0.01}, target, settings, spectrum,
-                            result, log));
+    ASSERT_TRUE(
+        ScaleRecord({"r", record, 0.01}, target, settings, result, log));
     EXPECT_GT(result.factor, 0.0);
     EXPECT_TRUE(std::isfinite(result.misfit));
   }
