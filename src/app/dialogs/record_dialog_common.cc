@@ -109,16 +109,17 @@ void RecordChooser::OnImport() {
   const QString path =
       host_.AskOpenFileName(this, QString::fromLatin1(kRecordFileFilter));
   if (path.isEmpty()) return;
+  const std::string file_path = QFile::encodeName(path).toStdString();
   ImportChoices choices;
   const std::optional<RecordLayout> layout =
-      InspectRecordFile(InputFile::Open(QFile::encodeName(path).toStdString()));
+      InspectRecordFile(InputFile::Open(file_path));
   if (layout && layout->NeedsImportStep()) {
-    DLG_RecordImport step(QFile::encodeName(path).toStdString(), *layout, this);
+    DLG_RecordImport step(file_path, *layout, this);
     if (host_.RunDialog(step) != QDialog::Accepted) return;
     choices = step.choices();
   }
   choices_ = choices;
-  record_path_ = QFile::encodeName(path).toStdString();
+  record_path_ = file_path;
   imported_ = true;
   // The list keeps the imported record for the rest of the dialog's life.
   record_list_->blockSignals(true);
@@ -148,10 +149,7 @@ ReadResult ReadChosenRecord(const std::string& path,
     return ReadResult::kRefused;
   }
   const ReadResult result = ReadRecord(std::move(file), reading, record, held);
-  if (result == ReadResult::kRefused) {
-    for (const std::string& text : held.texts()) messages.Show(text);
-    messages.Show(kRecordReadFailedMessage);
-  }
+  if (result == ReadResult::kRefused) ShowReadOutcome(result, held, messages);
   return result;
 }
 

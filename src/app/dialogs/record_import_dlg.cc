@@ -4,13 +4,13 @@
 #include <QFormLayout>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "app/dialogs/ok_cancel_buttons.h"
 #include "core/document/c_format.h"
 #include "core/document/input_file.h"
 #include "core/document/messages.h"
+#include "core/records/record_curve.h"
 #include "core/records/record_reader.h"
 
 namespace zel::app {
@@ -109,16 +109,10 @@ void DLG_RecordImport::UpdatePreview() {
       ReadResult::kRead) {
     const std::string description = RecordDescription(record);
     if (!description.empty()) text += description + "\n";
-    double peak = 0.0;
-    double at = 0.0;
-    for (const RecordSample& s : record.samples) {
-      if (std::fabs(s.value) >= peak) {
-        peak = std::fabs(s.value);
-        at = s.time;
-      }
-    }
+    const RecordPeak peak = PeakOf(record.samples);
     text += CFormat("%zu samples, dt = %g sec, peak %.4f g at %.3f sec\n",
-                    record.samples.size(), record.time_step, peak, at);
+                    record.samples.size(), record.time_step, peak.magnitude,
+                    peak.time);
     for (std::size_t i = 0;
          i < std::min(kPreviewSamples, record.samples.size()); ++i) {
       text += CFormat("%10.4f  %12.6g\n", record.samples[i].time,

@@ -17,12 +17,9 @@ void PrepareRecordDocument(CZELwDoc& doc, double amplitude_scale,
   doc.record_name = record_name;
 }
 
-RecordPeak StoreTimeHistory(CZELwDoc& doc) {
+RecordPeak PeakOf(std::span<const RecordSample> samples) {
   RecordPeak peak;
-  const int count = static_cast<int>(doc.record_samples.size());
-  for (int k = 0; k < count; ++k) {
-    const RecordSample& sample = doc.record_samples[k];
-    doc.SetPoint(k, 0, sample.time, sample.value, 0);
+  for (const RecordSample& sample : samples) {
     const double magnitude = std::fabs(sample.value);
     if (magnitude >= peak.magnitude) {
       peak.magnitude = magnitude;
@@ -30,6 +27,15 @@ RecordPeak StoreTimeHistory(CZELwDoc& doc) {
     }
   }
   return peak;
+}
+
+RecordPeak StoreTimeHistory(CZELwDoc& doc) {
+  const int count = static_cast<int>(doc.record_samples.size());
+  for (int k = 0; k < count; ++k) {
+    const RecordSample& sample = doc.record_samples[k];
+    doc.SetPoint(k, 0, sample.time, sample.value, 0);
+  }
+  return PeakOf(doc.record_samples);
 }
 
 int ShowRecordCurve(CZELwDoc& doc, InputFile file, MessageSink& messages,

@@ -2,6 +2,7 @@
 #ifndef ZEL_CORE_RECORDS_RECORD_CURVE_H_
 #define ZEL_CORE_RECORDS_RECORD_CURVE_H_
 
+#include <span>
 #include <string>
 
 #include "core/document/curve_document.h"
@@ -36,9 +37,12 @@ struct RecordPeak {
   double time = 0.0;
 };
 
-// Stores every record sample as point k of curve 0 (without the last mark)
-// and returns the peak |acceleration| with its time; among equal peaks the
+// The peak |acceleration| of `samples` with its time; among equal peaks the
 // last one wins.
+RecordPeak PeakOf(std::span<const RecordSample> samples);
+
+// Stores every record sample as point k of curve 0 (without the last mark)
+// and returns PeakOf the samples.
 RecordPeak StoreTimeHistory(CZELwDoc& doc);
 
 }  // namespace zel
