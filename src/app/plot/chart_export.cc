@@ -55,8 +55,7 @@ bool ExportPdf(ChartWidget& chart, const QString& path) {
 }
 
 bool ExportCsv(ChartWidget& chart, const QString& path) {
-  return WriteWholeFile(
-      path, QByteArray::fromStdString(CurvesToCsv(chart.document())));
+  return ReplaceFileWith(path, CurvesToCsv(chart.document()));
 }
 
 bool ReplaceFileWith(const QString& path, std::string_view bytes) {

@@ -21,8 +21,10 @@ bool IsRaster(const QPaintDevice& device) {
          device.devType() == QInternal::Pixmap;
 }
 
-QByteArray PdfOf(ChartWidget& chart, const QPageLayout& page,
-                 const QString& title) {
+}  // namespace
+
+QByteArray ChartPdf(ChartWidget& chart, const QPageLayout& page,
+                    const QString& title) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   if (!buffer.open(QIODevice::WriteOnly)) return {};
@@ -38,8 +40,6 @@ QByteArray PdfOf(ChartWidget& chart, const QPageLayout& page,
   }  // the writer finishes the file here
   return bytes;
 }
-
-}  // namespace
 
 int ChartDpi() {
   // As the fonts measure their text: the primary screen's logical
@@ -109,20 +109,15 @@ QByteArray ChartSvg(ChartWidget& chart, QSize size, const QString& title) {
   return bytes;
 }
 
-QByteArray ChartPdf(ChartWidget& chart, const QPageLayout& page,
-                    const QString& title) {
-  return PdfOf(chart, page, title);
-}
-
 QByteArray ChartPdf(ChartWidget& chart, QSize size, const QString& title) {
   const double to_points = kPointsPerInch / ChartDpi();
   const QPageSize page_size(
       QSizeF(size.width() * to_points, size.height() * to_points),
       QPageSize::Point, QString(), QPageSize::ExactMatch);
-  return PdfOf(chart,
-               QPageLayout(page_size, QPageLayout::Portrait, QMarginsF(),
-                           QPageLayout::Point),
-               title);
+  return ChartPdf(chart,
+                  QPageLayout(page_size, QPageLayout::Portrait, QMarginsF(),
+                              QPageLayout::Point),
+                  title);
 }
 
 }  // namespace zel::app

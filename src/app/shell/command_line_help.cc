@@ -9,10 +9,6 @@
 namespace zel::app {
 
 QString CommandLineHelp() {
-  QStringList formats;
-  for (const ExportFormat& format : ExportFormats()) {
-    formats << QString::fromLatin1(format.suffix);
-  }
   return QStringLiteral(
              "ZEL: design response spectra by code, earthquake records and "
              "their response spectra, as charts\n"
@@ -34,7 +30,7 @@ QString CommandLineHelp() {
              "format: %1\n"
              "  --size WxH                  Size of the --export picture in "
              "pixels (default %2x%3)\n")
-      .arg(formats.join(QStringLiteral(", ")))
+      .arg(KnownExportSuffixes())
       .arg(kDefaultExportSize.width())
       .arg(kDefaultExportSize.height());
 }

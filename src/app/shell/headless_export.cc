@@ -82,11 +82,9 @@ QString KnownExportSuffixes() {
 QString ExportFilter() {
   QString filter;
   for (const ExportFormat& format : ExportFormats()) {
-    const QString suffix = QLatin1String(format.suffix);
-    const QString name = format.name
-                             ? QLatin1String(format.name)
-                             : suffix.toUpper() + QStringLiteral(" File");
-    filter += QStringLiteral("%1 (*.%2)|*.%2|").arg(name, suffix);
+    filter +=
+        QStringLiteral("%1 (*.%2)|*.%2|")
+            .arg(QLatin1String(format.name), QLatin1String(format.suffix));
   }
   return filter;
 }

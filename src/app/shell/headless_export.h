@@ -20,8 +20,8 @@ class ChartWidget;
 struct ExportFormat {
   const char* suffix;
   bool (*write)(ChartWidget& chart, const QString& path);
-  // The name in the file dialog's filter; "SUFFIX File" when unset.
-  const char* name = nullptr;
+  // The name in the file dialog's filter.
+  const char* name;
 };
 // A new format is one more entry here.
 const std::vector<ExportFormat>& ExportFormats();
