@@ -306,17 +306,21 @@ class SharedJob {
       for (std::size_t o = 0; o < size; ++o)
         osc[o] = job_.oscillator(first + o);
       double* peaks = job_.peaks + first;
-      if (recurrence_ == nullptr) {
+      // Oscillators the recurrence does not suit take the state step's
+      // peaks, whatever else shares their block.
+      bool keep[kMaxBlock];
+      bool any = false;
+      for (std::size_t o = 0; o < size; ++o) {
+        keep[o] = recurrence_ != nullptr && SuitsRecurrence(osc[o], n_);
+        any = any || keep[o];
+      }
+      if (!any) {
         function_(job_.forcing.data(), n_, osc, size, peaks);
       } else {
-        // Oscillators the recurrence does not suit take the state step's
-        // peaks, whatever else shares their block.
         recurrence_(job_.forcing.data(), n_, osc, size, peaks);
-        bool keep[kMaxBlock];
         bool all = true;
         for (std::size_t o = 0; o < size; ++o) {
-          keep[o] =
-              SuitsRecurrence(osc[o], n_) && peaks[o] < kRecurrenceCeiling;
+          keep[o] = keep[o] && peaks[o] < kRecurrenceCeiling;
           all = all && keep[o];
         }
         if (!all) {
