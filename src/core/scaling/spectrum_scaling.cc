@@ -118,8 +118,10 @@ bool ComputeScaleFactor(std::span<const double> record,
                         const ScalingSettings& settings, ScaleResult& result,
                         MessageSink& messages) {
   const std::size_t n = std::min(record.size(), code.size());
-  const std::vector<double> periods =
-      MatchingPeriods(settings.range, static_cast<int>(n));
+  // Only a message names a period.
+  const auto period_at = [&](std::size_t j) {
+    return MatchingPeriods(settings.range, static_cast<int>(n))[j];
+  };
   if (n == 0) {
     messages.Show("There is no period to match the spectra at");
     return false;
@@ -130,14 +132,14 @@ bool ComputeScaleFactor(std::span<const double> record,
       messages.Show(
           CFormat("The design spectrum is not above 0 at T = %g sec: there is "
                   "nothing to scale to",
-                  periods[j]));
+                  period_at(j)));
       return false;
     }
     if (!(std::isfinite(record[j]) && record[j] > 0.0)) {
       messages.Show(CFormat(
           "The record's spectrum is not above 0 at T = %g sec: no factor "
           "can scale it",
-          periods[j]));
+          period_at(j)));
       return false;
     }
     log_ratios[j] = std::log(code[j]) - std::log(record[j]);
