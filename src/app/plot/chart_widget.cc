@@ -17,6 +17,13 @@ QColor ToQColor(const Rgb& c) { return QColor(c.red, c.green, c.blue); }
 
 QString Text(const std::string& s) { return QString::fromStdString(s); }
 
+// Fitted lines as one text of several lines.
+QString Joined(const std::vector<std::string>& lines) {
+  QStringList texts;
+  for (const std::string& line : lines) texts << Text(line);
+  return texts.join(QLatin1Char('\n'));
+}
+
 QFont Sized(QFont font, double points) {
   font.setPointSizeF(points);
   return font;
@@ -146,9 +153,6 @@ MyGraphDisplay* ChartWidget::FindDisplay(int id) {
 }
 
 void ChartWidget::Rebuild() {
-  title_lines_ = doc_.chart.title_lines;
-  axis_titles_ = {Text(doc_.chart.axis_titles[0]),
-                  Text(doc_.chart.axis_titles[1])};
   SetScale(xAxis, x_ticker_, doc_.log_x != 0, doc_.x_axis_step);
   SetScale(yAxis, y_ticker_, doc_.log_y != 0, 0.0);
 
@@ -314,13 +318,11 @@ void ChartWidget::FitTexts() {
   const std::array<QCPAxis*, 2> axes = {xAxis, yAxis};
   for (int a = 0; a < 2; ++a) {
     const FittedText fit =
-        FitLines({axis_titles_[a].toStdString()}, axis_room[a], points,
+        FitLines({doc_.chart.axis_titles[a]}, axis_room[a], points,
                  std::max(kLegibleMinimumPoints, kLeastTitleShrink * points),
                  WidthIn(text), kMostAxisTitleLines);
-    QStringList lines;
-    for (const std::string& line : fit.lines) lines << Text(line);
     axes[a]->setLabelFont(Sized(text, fit.points));
-    axes[a]->setLabel(lines.join(QLatin1Char('\n')));
+    axes[a]->setLabel(Joined(fit.lines));
   }
 
   QFont bold = base_font_;
@@ -333,13 +335,11 @@ void ChartWidget::FitTexts() {
   const int most_lines = std::max(
       1, static_cast<int>(chart.height() * kMostTitleHeight / line_height));
   const FittedText fit = FitLines(
-      title_lines_, chart.width() - 2 * kTitlePadding, title_points,
+      doc_.chart.title_lines, chart.width() - 2 * kTitlePadding, title_points,
       std::max(kLegibleMinimumPoints, kLeastTitleShrink * title_points),
       WidthIn(bold), most_lines);
-  QStringList lines;
-  for (const std::string& line : fit.lines) lines << Text(line);
   title_->setFont(Sized(bold, fit.points));
-  title_->setText(lines.join(QLatin1Char('\n')));
+  title_->setText(Joined(fit.lines));
 }
 
 bool ChartWidget::TicksOutOfDate() const {
@@ -371,7 +371,7 @@ bool ChartWidget::PlaceLegendAwayFromCurves() {
     return true;
   }
   QCPLayoutInset* inset = axisRect()->insetLayout();
-  const int index = inset->elements(false).indexOf(legend);
+  const int index = LegendInsetIndex();
   if (index < 0 || inset->insetAlignment(index) == CornerAlignment(place)) {
     return false;
   }
@@ -382,7 +382,7 @@ bool ChartWidget::PlaceLegendAwayFromCurves() {
 void ChartWidget::MoveLegendInside() {
   if (!legend_outside_) return;
   QCPLayoutInset* inset = axisRect()->insetLayout();
-  const int index = inset->elements(false).indexOf(legend);
+  const int index = LegendInsetIndex();
   if (index >= 0) {
     inset->setInsetPlacement(index, QCPLayoutInset::ipBorderAligned);
     inset->setInsetAlignment(index, Qt::AlignTop | Qt::AlignRight);
@@ -396,7 +396,7 @@ void ChartWidget::MoveLegendOutside() {
   // Right of the plot, level with its top, in a margin as wide as the
   // legend; the title above still spans the whole chart.
   QCPLayoutInset* inset = axisRect()->insetLayout();
-  const int index = inset->elements(false).indexOf(legend);
+  const int index = LegendInsetIndex();
   if (index < 0) return;
   inset->setInsetPlacement(index, QCPLayoutInset::ipFree);
   axisRect()->setMinimumMargins(
@@ -408,13 +408,17 @@ void ChartWidget::AlignLegendBesidePlot() {
   // The inset layout places in parts of its own rectangle, which lies
   // inside the plot's.
   QCPLayoutInset* inset = axisRect()->insetLayout();
-  const int index = inset->elements(false).indexOf(legend);
+  const int index = LegendInsetIndex();
   const QRect in = inset->rect();
   const QRect plot = axisRect()->rect();
   if (index < 0 || in.width() <= 0 || in.height() <= 0) return;
   inset->setInsetRect(
       index, QRectF(double(plot.left() + plot.width() - in.left()) / in.width(),
                     double(plot.top() - in.top()) / in.height(), 0.0, 0.0));
+}
+
+int ChartWidget::LegendInsetIndex() const {
+  return axisRect()->insetLayout()->elements(false).indexOf(legend);
 }
 
 QRect ChartWidget::LegendRect() const {

@@ -73,6 +73,8 @@ class ChartWidget : public QCustomPlot {
   bool PlaceLegendAwayFromCurves();
   void MoveLegendInside();
   void MoveLegendOutside();
+  // The legend's place in the plot's inset layout; -1 when it is not there.
+  int LegendInsetIndex() const;
   void AlignLegendBesidePlot();
   bool TicksOutOfDate() const;
   // The drawable points of every curve, in curve order.
@@ -90,9 +92,6 @@ class ChartWidget : public QCustomPlot {
   ChartAxisTicker* x_ticker_;
   ChartAxisTicker* y_ticker_;
   Fingerprint fitted_;
-  // The text as the document gives it, before it is fitted.
-  std::vector<std::string> title_lines_;
-  std::array<QString, 2> axis_titles_;
   QFont base_font_;
   bool legend_outside_ = false;
 };
