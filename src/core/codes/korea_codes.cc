@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "core/codes/design_document.h"
-#include "core/codes/us_codes.h"
 #include "core/document/c_format.h"
 
 namespace zel {
@@ -11,9 +10,6 @@ namespace zel {
 namespace {
 
 double Square(double x) { return x * x; }
-
-// The building codes' T^(-1/2) branch is undefined at T = 0.
-double MoveAwayFromZero(double t) { return t <= 1e-6 ? kSmallestPeriod : t; }
 
 }  // namespace
 

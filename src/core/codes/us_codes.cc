@@ -16,8 +16,6 @@ bool CheckSoil(int soil, MessageSink& messages) {
   return CheckChoice(soil, kSoilFactors.size(), "Soil Profile Type", messages);
 }
 
-double MoveAwayFromZero(double t) { return t <= 1e-6 ? kSmallestPeriod : t; }
-
 // UBC 88-94 spectral shape C(T) for one soil factor: 1 + slope * T up to T1,
 // the 2.5 plateau up to T2, then numerator / T.
 struct Ubc88Shape {
