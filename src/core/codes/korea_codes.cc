@@ -11,6 +11,14 @@ namespace {
 
 double Square(double x) { return x * x; }
 
+// The three codes' labels differ only in the name of the second value: the
+// acceleration (EPA) or the earthquake area's coefficient (Area).
+std::string KoreaLabel(double soil, const char* name, double value,
+                       double importance, double r) {
+  return CFormat("Soil = %3.1f  %s = %4.2f  OIF = %4.2f  RMC = %4.2f", soil,
+                 name, value, importance, r);
+}
+
 }  // namespace
 
 std::vector<SpectrumPoint> Korea1992Spectrum(const Korea1992Params& p) {
@@ -82,22 +90,19 @@ std::vector<SpectrumPoint> KoreaBridgeSpectrum(const KoreaBridgeParams& p) {
 }
 
 std::string Korea1992Label(const Korea1992Params& p) {
-  return CFormat("Soil = %3.1f  EPA = %4.2f  OIF = %4.2f  RMC = %4.2f",
-                 ChoiceValue(kKorea1992SoilFactors, p.soil), p.epa,
-                 p.importance, p.r);
+  return KoreaLabel(ChoiceValue(kKorea1992SoilFactors, p.soil), "EPA", p.epa,
+                    p.importance, p.r);
 }
 
 std::string Korea2000Label(const Korea2000Params& p) {
-  return CFormat("Soil = %3.1f  Area = %4.2f  OIF = %4.2f  RMC = %4.2f",
-                 ChoiceValue(kKorea2000SoilFactors, p.soil),
-                 ChoiceValue(kKorea2000AreaCoefficients, p.area), p.importance,
-                 p.r);
+  return KoreaLabel(ChoiceValue(kKorea2000SoilFactors, p.soil), "Area",
+                    ChoiceValue(kKorea2000AreaCoefficients, p.area),
+                    p.importance, p.r);
 }
 
 std::string KoreaBridgeLabel(const KoreaBridgeParams& p) {
-  return CFormat("Soil = %3.1f  Area = %4.2f  OIF = %4.2f  RMC = %4.2f",
-                 ChoiceValue(kKoreaBridgeSoilFactors, p.soil), p.area,
-                 p.importance, p.r);
+  return KoreaLabel(ChoiceValue(kKoreaBridgeSoilFactors, p.soil), "Area",
+                    p.area, p.importance, p.r);
 }
 
 bool GenerateKorea1992(CZELwDoc& doc, const Korea1992Params& p,
