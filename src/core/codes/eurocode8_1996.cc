@@ -23,10 +23,6 @@ struct Ec8Shape {
   double floor;
 
   double Bounded(double sa) const { return sa < floor ? floor : sa; }
-  // The value at TD, where the (TC / T)^k1 branch ends.
-  double AtTd() const {
-    return Bounded(plateau * std::pow(soil.tc / soil.td, k1));
-  }
   double At(double t) const {
     if (t < soil.tb)
       return alpha * soil.s * (1.0 + (t / soil.tb) * (peak - 1.0));
@@ -46,7 +42,7 @@ std::vector<SpectrumPoint> Sample(const PeriodGrid& grid,
                                   const Ec8Shape& shape) {
   const SpectrumPoint corners[] = {{shape.soil.tb, shape.plateau},
                                    {shape.soil.tc, shape.plateau},
-                                   {shape.soil.td, shape.AtTd()}};
+                                   {shape.soil.td, shape.At(shape.soil.td)}};
   return SampleSpectrum(grid, corners, CornerRule::kPastPreviousPeriod,
                         [&shape](double t) {
                           return SpectrumPoint{t, shape.At(t)};
