@@ -54,6 +54,13 @@ struct NamedValue {
 bool CheckChoice(int index, std::size_t count, std::string_view label,
                  MessageSink& messages);
 
+// CheckChoice against a code's choice table.
+template <class T, std::size_t N>
+bool CheckChoice(const std::array<T, N>&, int index, std::string_view label,
+                 MessageSink& messages) {
+  return CheckChoice(index, N, label, messages);
+}
+
 // Whether `index` selects an entry of a code's choice table, and the entry
 // (`fallback` outside the table).
 template <class T, std::size_t N>

@@ -104,11 +104,11 @@ bool GenerateEc8Design(CZELwDoc& doc, const Ec8DesignParams& p,
                        MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kEc8SoilClasses.size(), kEc8SoilLabel, messages) ||
-      !CheckChoice(p.ductility, kEc8DuctilityFactors.size(), kEc8DuctilityLabel,
+      !CheckChoice(kEc8SoilClasses, p.soil, kEc8SoilLabel, messages) ||
+      !CheckChoice(kEc8DuctilityFactors, p.ductility, kEc8DuctilityLabel,
                    messages) ||
-      !CheckChoice(p.regularity, kEc8RegularityFactors.size(),
-                   kEc8RegularityLabel, messages) ||
+      !CheckChoice(kEc8RegularityFactors, p.regularity, kEc8RegularityLabel,
+                   messages) ||
       !CheckPrintableParameters(
           {{"qo", p.qo}, {"Kw", p.kw}, {"Alpha", p.alpha}}, messages)) {
     return false;
@@ -125,7 +125,7 @@ bool GenerateEc8Elastic(CZELwDoc& doc, const Ec8ElasticParams& p,
     return false;
   }
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kEc8SoilClasses.size(), kEc8SoilLabel, messages) ||
+      !CheckChoice(kEc8SoilClasses, p.soil, kEc8SoilLabel, messages) ||
       !CheckPrintableParameters({{"Alpha", p.alpha}, {"Damping", p.damping}},
                                 messages)) {
     return false;

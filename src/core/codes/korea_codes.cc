@@ -109,8 +109,7 @@ bool GenerateKorea1992(CZELwDoc& doc, const Korea1992Params& p,
                        MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kKorea1992SoilFactors.size(), kKoreaSoilLabel,
-                   messages) ||
+      !CheckChoice(kKorea1992SoilFactors, p.soil, kKoreaSoilLabel, messages) ||
       !CheckPrintableParameters(
           {{"EPA", p.epa}, {"OIF", p.importance}, {"RMC", p.r}}, messages)) {
     return false;
@@ -123,10 +122,9 @@ bool GenerateKorea2000(CZELwDoc& doc, const Korea2000Params& p,
                        MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kKorea2000SoilFactors.size(), kKoreaSoilLabel,
+      !CheckChoice(kKorea2000SoilFactors, p.soil, kKoreaSoilLabel, messages) ||
+      !CheckChoice(kKorea2000AreaCoefficients, p.area, kKorea2000AreaLabel,
                    messages) ||
-      !CheckChoice(p.area, kKorea2000AreaCoefficients.size(),
-                   kKorea2000AreaLabel, messages) ||
       !CheckPrintableParameters({{"I", p.importance}, {"R", p.r}}, messages)) {
     return false;
   }
@@ -138,7 +136,7 @@ bool GenerateKoreaBridge(CZELwDoc& doc, const KoreaBridgeParams& p,
                          MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kKoreaBridgeSoilFactors.size(), kKoreaSoilLabel,
+      !CheckChoice(kKoreaBridgeSoilFactors, p.soil, kKoreaSoilLabel,
                    messages) ||
       !CheckPrintableParameters(
           {{"Ar", p.area}, {"R", p.r}, {"I", p.importance}}, messages)) {

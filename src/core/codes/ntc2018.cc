@@ -139,7 +139,7 @@ std::string Ntc2018Label(const Ntc2018Params& p) {
 bool GenerateNtc2018(CZELwDoc& doc, const Ntc2018Params& p,
                      MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
-  if (!CheckChoice(p.type, kNtc2018Types.size(), "Spectrum Type", messages)) {
+  if (!CheckChoice(kNtc2018Types, p.type, "Spectrum Type", messages)) {
     return false;
   }
   const bool elastic = Ntc2018IsElastic(p.type);

@@ -13,7 +13,7 @@ namespace {
 bool IsSoilIndex(int soil) { return IsChoiceIndex(kSoilFactors, soil); }
 
 bool CheckSoil(int soil, MessageSink& messages) {
-  return CheckChoice(soil, kSoilFactors.size(), "Soil Profile Type", messages);
+  return CheckChoice(kSoilFactors, soil, "Soil Profile Type", messages);
 }
 
 // UBC 88-94 spectral shape C(T) for one soil factor: 1 + slope * T up to T1,
