@@ -21,20 +21,10 @@ constexpr double kJtj004SiteMu[] = {0.8, 0.5, 0.0, 0.0};
 constexpr double kJtj004Floor = 0.3;
 constexpr double kJtj004FloorRatio = 0.13333333333333333;  // 0.3 / 2.25
 
-template <std::size_t N>
-bool IsIndex(int index, const std::array<const char*, N>&) {
-  return index >= 0 && index < static_cast<int>(N);
-}
-
 // A selection the dialog cannot make (only a caller bypassing it can).
 bool CheckSelection(bool valid, const char* what, MessageSink& messages) {
   if (!valid) messages.Show(CFormat("The selection of %s is not valid", what));
   return valid;
-}
-
-template <std::size_t N>
-const char* TextAt(const std::array<const char*, N>& texts, int index) {
-  return IsIndex(index, texts) ? texts[index] : "";
 }
 
 // The dialogs' range checks: "The edit value in 'Tg' must be greater than or
@@ -67,8 +57,8 @@ constexpr double kMaxPeriod = 10.0;  // s
 constexpr double kMaxCz = 10.0;
 
 bool CheckBridgeSelections(int intensity, int site, MessageSink& messages) {
-  return CheckSelection(IsIndex(intensity, kBridgeIntensities) &&
-                            IsIndex(site, kChineseSiteClasses),
+  return CheckSelection(IsChoiceIndex(kBridgeIntensities, intensity) &&
+                            IsChoiceIndex(kChineseSiteClasses, site),
                         "intensity or site class", messages);
 }
 
@@ -88,7 +78,7 @@ double Gb50011AlphaMax(int intensity, int earthquake) {
   // Intensity 6 has no scarce-earthquake value: its curve is flat zero.
   static constexpr double kFrequent[] = {0.04, 0.08, 0.12, 0.16, 0.24, 0.32};
   static constexpr double kScarce[] = {0.0, 0.5, 0.72, 0.9, 1.2, 1.4};
-  if (!IsIndex(intensity, kGb50011Intensities)) return 0.0;
+  if (!IsChoiceIndex(kGb50011Intensities, intensity)) return 0.0;
   return earthquake == Gb50011Params::kScarce ? kScarce[intensity]
                                               : kFrequent[intensity];
 }
@@ -98,8 +88,8 @@ double Gb50011SuggestedTg(int intensity, int earthquake, int category,
   static constexpr double kTg[3][4] = {{0.25, 0.35, 0.45, 0.65},
                                        {0.30, 0.40, 0.55, 0.75},
                                        {0.35, 0.45, 0.65, 0.90}};
-  if (!IsIndex(category, kGb50011Categories) ||
-      !IsIndex(site, kChineseSiteClasses)) {
+  if (!IsChoiceIndex(kGb50011Categories, category) ||
+      !IsChoiceIndex(kChineseSiteClasses, site)) {
     return kTg[0][0];
   }
   double tg = kTg[category][site];
@@ -109,17 +99,17 @@ double Gb50011SuggestedTg(int intensity, int earthquake, int category,
 
 double BridgeSuggestedKh(int intensity) {
   static constexpr double kKh[] = {0.1, 0.2, 0.4};
-  return IsIndex(intensity, kBridgeIntensities) ? kKh[intensity] : kKh[0];
+  return IsChoiceIndex(kBridgeIntensities, intensity) ? kKh[intensity] : kKh[0];
 }
 
 double Jtj004SuggestedTg(int site) {
-  return IsIndex(site, kChineseSiteClasses) ? kBridgeSiteTg[site]
-                                            : kBridgeSiteTg[0];
+  return IsChoiceIndex(kChineseSiteClasses, site) ? kBridgeSiteTg[site]
+                                                  : kBridgeSiteTg[0];
 }
 
 double Jtj004SuggestedMu(int site) {
-  return IsIndex(site, kChineseSiteClasses) ? kJtj004SiteMu[site]
-                                            : kJtj004SiteMu[0];
+  return IsChoiceIndex(kChineseSiteClasses, site) ? kJtj004SiteMu[site]
+                                                  : kJtj004SiteMu[0];
 }
 
 double Gbj111SuggestedTg1(int site) { return Jtj004SuggestedTg(site); }
@@ -152,8 +142,8 @@ std::vector<SpectrumPoint> Gb50011Spectrum(const Gb50011Params& p) {
 }
 
 std::vector<SpectrumPoint> Jtj004Spectrum(const Jtj004Params& p) {
-  const double ci = AtoF(TextAt(kJtj004CiTexts, p.ci));
-  const double cz = AtoF(TextAt(kJtj004CzTexts, p.cz));
+  const double ci = AtoF(ChoiceValue(kJtj004CiTexts, p.ci, ""));
+  const double cz = AtoF(ChoiceValue(kJtj004CzTexts, p.cz, ""));
   const double f = ci * cz * p.kh;
   // Where the decaying branch reaches the floor.
   const double te = p.tg / std::pow(kJtj004FloorRatio, 1.0 / p.k);
@@ -195,36 +185,38 @@ std::vector<SpectrumPoint> Gbj111Spectrum(const Gbj111Params& p) {
 
 std::string Gb50011Label(const Gb50011Params& p) {
   return CFormat("Near Src=%d  Zone=%s  Site=%s  %s  Tg=%4.2fs  Damp.=%4.2f",
-                 p.category + 1, TextAt(kGb50011Intensities, p.intensity),
-                 TextAt(kChineseSiteClasses, p.site),
-                 TextAt(kGb50011EarthquakeClasses, p.earthquake), p.tg,
+                 p.category + 1,
+                 ChoiceValue(kGb50011Intensities, p.intensity, ""),
+                 ChoiceValue(kChineseSiteClasses, p.site, ""),
+                 ChoiceValue(kGb50011EarthquakeClasses, p.earthquake, ""), p.tg,
                  p.damping);
 }
 
 std::string Jtj004Label(const Jtj004Params& p) {
   return CFormat("Zone=%s  Kh=%3.1f  Site=%s  Tg=%4.2fs  Ci=%4.2f  Cz=%4.2f",
-                 TextAt(kBridgeIntensities, p.intensity), p.kh,
-                 TextAt(kChineseSiteClasses, p.site), p.tg,
-                 AtoF(TextAt(kJtj004CiTexts, p.ci)),
-                 AtoF(TextAt(kJtj004CzTexts, p.cz)));
+                 ChoiceValue(kBridgeIntensities, p.intensity, ""), p.kh,
+                 ChoiceValue(kChineseSiteClasses, p.site, ""), p.tg,
+                 AtoF(ChoiceValue(kJtj004CiTexts, p.ci, "")),
+                 AtoF(ChoiceValue(kJtj004CzTexts, p.cz, "")));
 }
 
 std::string Gbj111Label(const Gbj111Params& p) {
   return CFormat("Zone=%s  Kh=%4.2f  Site=%s  Tg1=%4.2fs  Cz=%4.2f",
-                 TextAt(kBridgeIntensities, p.intensity), p.kh,
-                 TextAt(kChineseSiteClasses, p.site), p.tg1, p.cz);
+                 ChoiceValue(kBridgeIntensities, p.intensity, ""), p.kh,
+                 ChoiceValue(kChineseSiteClasses, p.site, ""), p.tg1, p.cz);
 }
 
 bool GenerateGb50011(CZELwDoc& doc, const Gb50011Params& p,
                      MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
-  if (!CheckSelection(IsIndex(p.intensity, kGb50011Intensities) &&
-                          IsIndex(p.earthquake, kGb50011EarthquakeClasses) &&
-                          IsIndex(p.category, kGb50011Categories) &&
-                          IsIndex(p.site, kChineseSiteClasses),
-                      "intensity, earthquake class, near source category or "
-                      "site class",
-                      messages)) {
+  if (!CheckSelection(
+          IsChoiceIndex(kGb50011Intensities, p.intensity) &&
+              IsChoiceIndex(kGb50011EarthquakeClasses, p.earthquake) &&
+              IsChoiceIndex(kGb50011Categories, p.category) &&
+              IsChoiceIndex(kChineseSiteClasses, p.site),
+          "intensity, earthquake class, near source category or "
+          "site class",
+          messages)) {
     return false;
   }
   // The code's own checks come before the grid's. The damping ratio is a
@@ -249,9 +241,9 @@ bool GenerateJtj004(CZELwDoc& doc, const Jtj004Params& p,
   // The site estimation coefficient runs from soft (0) to hard (1) ground;
   // outside it the exponent no longer describes a decay.
   if (!CheckBridgeSelections(p.intensity, p.site, messages) ||
-      !CheckSelection(
-          IsIndex(p.ci, kJtj004CiTexts) && IsIndex(p.cz, kJtj004CzTexts),
-          "Ci or Cz", messages) ||
+      !CheckSelection(IsChoiceIndex(kJtj004CiTexts, p.ci) &&
+                          IsChoiceIndex(kJtj004CzTexts, p.cz),
+                      "Ci or Cz", messages) ||
       !CheckEditValue("Kh", p.kh, Bound::kAtLeast, 0.0, messages) ||
       !CheckEditValue("Tg", p.tg, Bound::kAtLeast, 0.1, messages) ||
       !ValidatePeriodGrid(p.grid, messages) ||

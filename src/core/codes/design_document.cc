@@ -35,12 +35,6 @@ void CopyGridToDocument(const PeriodGrid& grid, CZELwDoc& doc) {
 
 void StoreDesignSpectrum(CZELwDoc& doc, const std::string& title,
                          const std::string& label,
-                         std::span<const SpectrumPoint> points) {
-  StoreDesignSpectrum(doc, title, label, points, {});
-}
-
-void StoreDesignSpectrum(CZELwDoc& doc, const std::string& title,
-                         const std::string& label,
                          std::span<const SpectrumPoint> points,
                          const std::string& y_axis_title) {
   doc.spectrum_kind = kAbsoluteAcceleration;

@@ -26,16 +26,13 @@ void CopyGridToDocument(const PeriodGrid& grid, CZELwDoc& doc);
 
 // The classic generators' hand-over: kind 2 (so the Y axis reads "Absolute
 // Acceleration (g)"), title, parameter label, and series 0 stored without the
-// last-point mark, so a saved file ends one point short of the chart.
-void StoreDesignSpectrum(CZELwDoc& doc, const std::string& title,
-                         const std::string& label,
-                         std::span<const SpectrumPoint> points);
-// The same with the code's own Y-axis title (Korea(Bridge): "Csm/R") set
+// last-point mark, so a saved file ends one point short of the chart. A
+// code's own Y-axis title (Korea(Bridge): "Csm/R"), when given, is set
 // directly instead of the kind's.
 void StoreDesignSpectrum(CZELwDoc& doc, const std::string& title,
                          const std::string& label,
                          std::span<const SpectrumPoint> points,
-                         const std::string& y_axis_title);
+                         const std::string& y_axis_title = {});
 
 // The array hand-off of the codes computed in their dialogs: every pair is
 // stored with the last-point mark, and the Y axis is titled "Sa (g)"
@@ -56,6 +53,13 @@ struct NamedValue {
 // dialog can give one): "The selection in '<label>' is not valid".
 bool CheckChoice(int index, std::size_t count, std::string_view label,
                  MessageSink& messages);
+
+// CheckChoice against a code's choice table.
+template <class T, std::size_t N>
+bool CheckChoice(const std::array<T, N>&, int index, std::string_view label,
+                 MessageSink& messages) {
+  return CheckChoice(index, N, label, messages);
+}
 
 // Whether `index` selects an entry of a code's choice table, and the entry
 // (`fallback` outside the table).

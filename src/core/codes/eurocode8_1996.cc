@@ -23,10 +23,6 @@ struct Ec8Shape {
   double floor;
 
   double Bounded(double sa) const { return sa < floor ? floor : sa; }
-  // The value at TD, where the (TC / T)^k1 branch ends.
-  double AtTd() const {
-    return Bounded(plateau * std::pow(soil.tc / soil.td, k1));
-  }
   double At(double t) const {
     if (t < soil.tb)
       return alpha * soil.s * (1.0 + (t / soil.tb) * (peak - 1.0));
@@ -46,7 +42,7 @@ std::vector<SpectrumPoint> Sample(const PeriodGrid& grid,
                                   const Ec8Shape& shape) {
   const SpectrumPoint corners[] = {{shape.soil.tb, shape.plateau},
                                    {shape.soil.tc, shape.plateau},
-                                   {shape.soil.td, shape.AtTd()}};
+                                   {shape.soil.td, shape.At(shape.soil.td)}};
   return SampleSpectrum(grid, corners, CornerRule::kPastPreviousPeriod,
                         [&shape](double t) {
                           return SpectrumPoint{t, shape.At(t)};
@@ -108,11 +104,11 @@ bool GenerateEc8Design(CZELwDoc& doc, const Ec8DesignParams& p,
                        MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kEc8SoilClasses.size(), kEc8SoilLabel, messages) ||
-      !CheckChoice(p.ductility, kEc8DuctilityFactors.size(), kEc8DuctilityLabel,
+      !CheckChoice(kEc8SoilClasses, p.soil, kEc8SoilLabel, messages) ||
+      !CheckChoice(kEc8DuctilityFactors, p.ductility, kEc8DuctilityLabel,
                    messages) ||
-      !CheckChoice(p.regularity, kEc8RegularityFactors.size(),
-                   kEc8RegularityLabel, messages) ||
+      !CheckChoice(kEc8RegularityFactors, p.regularity, kEc8RegularityLabel,
+                   messages) ||
       !CheckPrintableParameters(
           {{"qo", p.qo}, {"Kw", p.kw}, {"Alpha", p.alpha}}, messages)) {
     return false;
@@ -129,7 +125,7 @@ bool GenerateEc8Elastic(CZELwDoc& doc, const Ec8ElasticParams& p,
     return false;
   }
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kEc8SoilClasses.size(), kEc8SoilLabel, messages) ||
+      !CheckChoice(kEc8SoilClasses, p.soil, kEc8SoilLabel, messages) ||
       !CheckPrintableParameters({{"Alpha", p.alpha}, {"Damping", p.damping}},
                                 messages)) {
     return false;

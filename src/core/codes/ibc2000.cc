@@ -26,10 +26,6 @@ constexpr double kFv[5][5] = {
     {3.5, 3.2, 2.8, 2.4, 9.9},
 };
 
-bool IsSite(int site) {
-  return site >= 0 && site < static_cast<int>(kIbc2000SiteClasses.size());
-}
-
 // Linear between columns; where x is a column value both neighbouring
 // pairs match and the later one is kept (they agree there).
 double SiteCoefficient(const double (&columns)[5], const double (&row)[5],
@@ -49,11 +45,15 @@ double SiteCoefficient(const double (&columns)[5], const double (&row)[5],
 }  // namespace
 
 double Ibc2000Fa(int site, double ss) {
-  return IsSite(site) ? SiteCoefficient(kSsColumns, kFa[site], ss) : 0.0;
+  return IsChoiceIndex(kIbc2000SiteClasses, site)
+             ? SiteCoefficient(kSsColumns, kFa[site], ss)
+             : 0.0;
 }
 
 double Ibc2000Fv(int site, double s1) {
-  return IsSite(site) ? SiteCoefficient(kS1Columns, kFv[site], s1) : 0.0;
+  return IsChoiceIndex(kIbc2000SiteClasses, site)
+             ? SiteCoefficient(kS1Columns, kFv[site], s1)
+             : 0.0;
 }
 
 Ibc2000Coefficients ComputeIbc2000Coefficients(const Ibc2000Params& p) {
@@ -94,7 +94,7 @@ std::vector<SpectrumPoint> Ibc2000Spectrum(const Ibc2000Params& p) {
 }
 
 std::string Ibc2000Label(const Ibc2000Params& p) {
-  const char* site = IsSite(p.site) ? kIbc2000SiteClasses[p.site] : "";
+  const char* site = ChoiceValue(kIbc2000SiteClasses, p.site, "");
   return CFormat("Site Class = %s  Ss = %5.3f  S1 = %5.3f", site, p.ss, p.s1);
 }
 
@@ -105,8 +105,8 @@ bool GenerateIbc2000(CZELwDoc& doc, const Ibc2000Params& p,
   if (!CheckIbc2000SiteClass(p, messages)) return false;
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages)) return false;
-  if (!IsSite(p.site) || p.category < 0 ||
-      p.category >= static_cast<int>(kIbc2000DesignCategories.size())) {
+  if (!IsChoiceIndex(kIbc2000SiteClasses, p.site) ||
+      !IsChoiceIndex(kIbc2000DesignCategories, p.category)) {
     messages.Show(
         "The selection in 'Site Class' or 'Seismic Design "
         "Category' is not valid");

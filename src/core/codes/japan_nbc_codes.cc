@@ -60,10 +60,8 @@ bool GenerateJapan2000(CZELwDoc& doc, const Japan2000Params& p,
                        MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.zone, kJapanZoneFactors.size(), kJapanZoneLabel,
-                   messages) ||
-      !CheckChoice(p.soil, kJapanCornerPeriods.size(), kJapanSoilLabel,
-                   messages) ||
+      !CheckChoice(kJapanZoneFactors, p.zone, kJapanZoneLabel, messages) ||
+      !CheckChoice(kJapanCornerPeriods, p.soil, kJapanSoilLabel, messages) ||
       !CheckPrintableParameters({{"Co", p.co}}, messages)) {
     return false;
   }
@@ -75,8 +73,8 @@ bool GenerateNbc1995(CZELwDoc& doc, const Nbc1995Params& p,
                      MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.za, kNbcZoneTexts.size(), kNbcZaLabel, messages) ||
-      !CheckChoice(p.zv, kNbcZoneTexts.size(), kNbcZvLabel, messages) ||
+      !CheckChoice(kNbcZoneTexts, p.za, kNbcZaLabel, messages) ||
+      !CheckChoice(kNbcZoneTexts, p.zv, kNbcZvLabel, messages) ||
       !CheckPrintableParameters({{"v", p.v}}, messages)) {
     return false;
   }

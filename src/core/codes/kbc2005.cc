@@ -18,11 +18,6 @@ constexpr double kSdsFactor[5][2] = {
 constexpr double kSd1Factor[5][2] = {
     {0.8, 0.7}, {1.0, 1.0}, {1.6, 1.6}, {2.3, 2.3}, {3.4, 3.4}};
 
-template <std::size_t N>
-const char* NameOf(const std::array<const char*, N>& names, int index) {
-  return index >= 0 && index < static_cast<int>(N) ? names[index] : "";
-}
-
 double FiveDigits(double value) { return AtoF(CFormat("%-10.5g", value)); }
 
 }  // namespace
@@ -81,8 +76,9 @@ std::string Kbc2005Label(const Kbc2005Params& p) {
   return CFormat(
       "KBC2005 : Zone=%s, Site=%s, Sds=%6.4f, Sd1=%6.4f, Ie=%5.3f, R=%5.3f, "
       "Relieve=%s",
-      NameOf(kZoneNames, p.zone), NameOf(kKbc2005SiteClasses, p.site), p.sds,
-      p.sd1, p.ie, p.r, relieve);
+      ChoiceValue(kZoneNames, p.zone, ""),
+      ChoiceValue(kKbc2005SiteClasses, p.site, ""), p.sds, p.sd1, p.ie, p.r,
+      relieve);
 }
 
 bool GenerateKbc2005(CZELwDoc& doc, const Kbc2005Params& p,

@@ -12,10 +12,6 @@ namespace {
 constexpr double kRockT0 = 0.06;
 constexpr double kRockTs = 0.3;
 
-bool IsSite(int site) {
-  return site >= 0 && site < static_cast<int>(kKds2018SiteClasses.size());
-}
-
 bool NotPositive(const char* name, MessageSink& messages) {
   messages.Show(CFormat("Error! %s must be positive value.", name));
   return false;
@@ -28,7 +24,7 @@ double Kds2018EffectiveAcceleration(const Kds2018Params& p) {
 }
 
 bool Kds2018Refresh(Kds2018Params& p) {
-  if (!IsSite(p.site)) return false;
+  if (!IsChoiceIndex(kKds2018SiteClasses, p.site)) return false;
   if (p.site == kKds2018SiteS1) {
     p.fa = 0.0;
     p.fv = 0.0;
@@ -102,7 +98,7 @@ std::vector<SpectrumPoint> Kds2018Spectrum(const Kds2018Params& p) {
 std::string Kds2018Label(const Kds2018Params& p) {
   return CFormat("Zone=%s, I=%5.3f, Site=%s",
                  p.zone == 0 ? "ZoneI(0.11)" : "ZoneII(0.07)", p.risk,
-                 IsSite(p.site) ? kKds2018SiteClasses[p.site] : "");
+                 ChoiceValue(kKds2018SiteClasses, p.site, ""));
 }
 
 bool GenerateKds2018(CZELwDoc& doc, const Kds2018Params& p,

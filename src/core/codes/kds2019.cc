@@ -1,7 +1,6 @@
 #include "core/codes/kds2019.h"
 
 #include <cmath>
-#include <cstddef>
 
 #include "core/codes/design_document.h"
 #include "core/codes/tolerant_compare.h"
@@ -32,10 +31,6 @@ bool LookUp(const double (&table)[5][3], int site, double s, double& result) {
   }
   result = table[site][0];
   return true;
-}
-
-bool IsIndex(int index, std::size_t count) {
-  return index >= 0 && index < static_cast<int>(count);
 }
 
 }  // namespace
@@ -91,9 +86,7 @@ std::vector<SpectrumPoint> Kds2019Spectrum(const Kds2019Params& p) {
 }
 
 std::string Kds2019Label(const Kds2019Params& p) {
-  const char* site = IsIndex(p.site, kKds2019SiteClasses.size())
-                         ? kKds2019SiteClasses[p.site]
-                         : "";
+  const char* site = ChoiceValue(kKds2019SiteClasses, p.site, "");
   return CFormat(
       "KDS(41-17-00:2019): Zone=%d,S=%3.2f,Site=%s,Fa=%3.2f,Fv=%3.2f,"
       "Sds=%3.2f,Sd1=%3.2f,Ie=%3.1f,R=%3.1f",
@@ -104,8 +97,8 @@ bool GenerateKds2019(CZELwDoc& doc, const Kds2019Params& p,
                      MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages)) return false;
-  if (!IsIndex(p.zone, kKds2019Zones.size()) ||
-      !IsIndex(p.site, kKds2019SiteClasses.size())) {
+  if (!IsChoiceIndex(kKds2019Zones, p.zone) ||
+      !IsChoiceIndex(kKds2019SiteClasses, p.site)) {
     messages.Show(
         "The selection in 'Seismic Zone' or 'Site Class' is not valid");
     return false;

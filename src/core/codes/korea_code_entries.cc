@@ -1,5 +1,7 @@
 // Registry entries of the Korean classic codes: the dialogs DLG_KS,
 // DLG_KS2000 and DLG_KS_BRIDGE and their command-line parameters.
+#include <array>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -10,26 +12,27 @@ namespace zel {
 
 namespace {
 
-// The first `count` soil radios, and their command-line words.
-std::vector<std::string> SoilTexts(std::size_t count) {
-  return {kKoreaSoilTexts.begin(), kKoreaSoilTexts.begin() + count};
-}
-std::vector<std::string> SoilKeys(std::size_t count) {
+// The soil radios, one per factor of the code's table, and their
+// command-line words: the first fields of every Korean code.
+template <class P, std::size_t N>
+FieldTable<P>& SoilChoice(FieldTable<P>& fields,
+                          const std::array<double, N>& /*factors*/) {
+  static_assert(N <= kKoreaSoilTexts.size());
   static constexpr const char* kKeys[] = {"S1", "S2", "S3", "S4"};
-  return {kKeys, kKeys + count};
+  return fields
+      .Choice("soil", kKoreaSoilLabel, &P::soil,
+              {kKoreaSoilTexts.begin(), kKoreaSoilTexts.begin() + N},
+              {kKeys, kKeys + N})
+      .Radio();
 }
 
 }  // namespace
 
 CodeEntry Korea1992Entry() {
   using P = Korea1992Params;
-  constexpr std::size_t kSoils = kKorea1992SoilFactors.size();
   CodeBuilder<P> code("korea1992", "Korea(Arch.1992)", "Korea(Arch.1992)",
                       kKorea1992Title);
-  code.fields()
-      .Choice("soil", kKoreaSoilLabel, &P::soil, SoilTexts(kSoils),
-              SoilKeys(kSoils))
-      .Radio()
+  SoilChoice(code.fields(), kKorea1992SoilFactors)
       .Number("epa", "Effective Peak Acceleration (EPA) :", &P::epa)
       .Number("importance",
               "Occupancy Importance Factor (OIF) :", &P::importance)
@@ -40,13 +43,9 @@ CodeEntry Korea1992Entry() {
 
 CodeEntry Korea2000Entry() {
   using P = Korea2000Params;
-  constexpr std::size_t kSoils = kKorea2000SoilFactors.size();
   CodeBuilder<P> code("korea2000", "Korea(Arch.2000)", "Korea(Arch.2000)",
                       kKorea2000Title);
-  code.fields()
-      .Choice("soil", kKoreaSoilLabel, &P::soil, SoilTexts(kSoils),
-              SoilKeys(kSoils))
-      .Radio()
+  SoilChoice(code.fields(), kKorea2000SoilFactors)
       .Choice("area", kKorea2000AreaLabel, &P::area,
               {kKorea2000AreaTexts.begin(), kKorea2000AreaTexts.end()},
               {"1", "2"})
@@ -61,13 +60,9 @@ CodeEntry Korea2000Entry() {
 
 CodeEntry KoreaBridgeEntry() {
   using P = KoreaBridgeParams;
-  constexpr std::size_t kSoils = kKoreaBridgeSoilFactors.size();
   CodeBuilder<P> code("korea-bridge", "Korea(Bridge)", "Korea(Bridge)",
                       kKoreaBridgeTitle);
-  code.fields()
-      .Choice("soil", kKoreaSoilLabel, &P::soil, SoilTexts(kSoils),
-              SoilKeys(kSoils))
-      .Radio()
+  SoilChoice(code.fields(), kKoreaBridgeSoilFactors)
       .Number("area", "Earthquake Area (Ar) :", &P::area)
       .Number("r", "Response Modification Coef. (R):", &P::r)
       .Number("importance", "Importance factor ( I ) :", &P::importance)

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "core/codes/design_document.h"
-#include "core/codes/us_codes.h"
 #include "core/document/c_format.h"
 
 namespace zel {
@@ -12,8 +11,13 @@ namespace {
 
 double Square(double x) { return x * x; }
 
-// The building codes' T^(-1/2) branch is undefined at T = 0.
-double MoveAwayFromZero(double t) { return t <= 1e-6 ? kSmallestPeriod : t; }
+// The three codes' labels differ only in the name of the second value: the
+// acceleration (EPA) or the earthquake area's coefficient (Area).
+std::string KoreaLabel(double soil, const char* name, double value,
+                       double importance, double r) {
+  return CFormat("Soil = %3.1f  %s = %4.2f  OIF = %4.2f  RMC = %4.2f", soil,
+                 name, value, importance, r);
+}
 
 }  // namespace
 
@@ -86,30 +90,26 @@ std::vector<SpectrumPoint> KoreaBridgeSpectrum(const KoreaBridgeParams& p) {
 }
 
 std::string Korea1992Label(const Korea1992Params& p) {
-  return CFormat("Soil = %3.1f  EPA = %4.2f  OIF = %4.2f  RMC = %4.2f",
-                 ChoiceValue(kKorea1992SoilFactors, p.soil), p.epa,
-                 p.importance, p.r);
+  return KoreaLabel(ChoiceValue(kKorea1992SoilFactors, p.soil), "EPA", p.epa,
+                    p.importance, p.r);
 }
 
 std::string Korea2000Label(const Korea2000Params& p) {
-  return CFormat("Soil = %3.1f  Area = %4.2f  OIF = %4.2f  RMC = %4.2f",
-                 ChoiceValue(kKorea2000SoilFactors, p.soil),
-                 ChoiceValue(kKorea2000AreaCoefficients, p.area), p.importance,
-                 p.r);
+  return KoreaLabel(ChoiceValue(kKorea2000SoilFactors, p.soil), "Area",
+                    ChoiceValue(kKorea2000AreaCoefficients, p.area),
+                    p.importance, p.r);
 }
 
 std::string KoreaBridgeLabel(const KoreaBridgeParams& p) {
-  return CFormat("Soil = %3.1f  Area = %4.2f  OIF = %4.2f  RMC = %4.2f",
-                 ChoiceValue(kKoreaBridgeSoilFactors, p.soil), p.area,
-                 p.importance, p.r);
+  return KoreaLabel(ChoiceValue(kKoreaBridgeSoilFactors, p.soil), "Area",
+                    p.area, p.importance, p.r);
 }
 
 bool GenerateKorea1992(CZELwDoc& doc, const Korea1992Params& p,
                        MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kKorea1992SoilFactors.size(), kKoreaSoilLabel,
-                   messages) ||
+      !CheckChoice(kKorea1992SoilFactors, p.soil, kKoreaSoilLabel, messages) ||
       !CheckPrintableParameters(
           {{"EPA", p.epa}, {"OIF", p.importance}, {"RMC", p.r}}, messages)) {
     return false;
@@ -122,10 +122,9 @@ bool GenerateKorea2000(CZELwDoc& doc, const Korea2000Params& p,
                        MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kKorea2000SoilFactors.size(), kKoreaSoilLabel,
+      !CheckChoice(kKorea2000SoilFactors, p.soil, kKoreaSoilLabel, messages) ||
+      !CheckChoice(kKorea2000AreaCoefficients, p.area, kKorea2000AreaLabel,
                    messages) ||
-      !CheckChoice(p.area, kKorea2000AreaCoefficients.size(),
-                   kKorea2000AreaLabel, messages) ||
       !CheckPrintableParameters({{"I", p.importance}, {"R", p.r}}, messages)) {
     return false;
   }
@@ -137,7 +136,7 @@ bool GenerateKoreaBridge(CZELwDoc& doc, const KoreaBridgeParams& p,
                          MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
   if (!ValidatePeriodGrid(p.grid, messages) ||
-      !CheckChoice(p.soil, kKoreaBridgeSoilFactors.size(), kKoreaSoilLabel,
+      !CheckChoice(kKoreaBridgeSoilFactors, p.soil, kKoreaSoilLabel,
                    messages) ||
       !CheckPrintableParameters(
           {{"Ar", p.area}, {"R", p.r}, {"I", p.importance}}, messages)) {

@@ -1,6 +1,7 @@
 #include "core/codes/ntc2018.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "core/codes/design_document.h"
@@ -15,17 +16,14 @@ namespace {
 struct GroundRow {
   double ss_min, ss_max, a, b, c, e;
 };
-constexpr GroundRow kGround[5] = {{1.0, 1.0, 1.0, 0.0, 1.0, 0.0},
-                                  {1.0, 1.2, 1.4, 0.4, 1.1, -0.2},
-                                  {1.0, 1.5, 1.7, 0.6, 1.05, -0.33},
-                                  {0.9, 1.8, 2.4, 1.5, 1.25, -0.5},
-                                  {1.0, 1.6, 2.0, 1.1, 1.15, -0.4}};
+constexpr std::array<GroundRow, 5> kGround = {
+    {{1.0, 1.0, 1.0, 0.0, 1.0, 0.0},
+     {1.0, 1.2, 1.4, 0.4, 1.1, -0.2},
+     {1.0, 1.5, 1.7, 0.6, 1.05, -0.33},
+     {0.9, 1.8, 2.4, 1.5, 1.25, -0.5},
+     {1.0, 1.6, 2.0, 1.1, 1.15, -0.4}}};
 // Topographic amplification ST of categories T1..T4.
-constexpr double kTopography[4] = {1.0, 1.2, 1.2, 1.4};
-
-bool IsIndex(int index, std::size_t count) {
-  return index >= 0 && index < static_cast<int>(count);
-}
+constexpr std::array<double, 4> kTopography = {1.0, 1.2, 1.2, 1.4};
 
 bool Refuse(const char* message, MessageSink& messages) {
   messages.Show(message);
@@ -38,8 +36,8 @@ bool Ntc2018IsElastic(int type) { return type == 0 || type == 1; }
 bool Ntc2018IsVertical(int type) { return type == 1 || type == 3; }
 
 bool Ntc2018Refresh(Ntc2018Params& p) {
-  if (!IsIndex(p.topography, std::size(kTopography)) ||
-      !IsIndex(p.ground, std::size(kGround))) {
+  if (!IsChoiceIndex(kTopography, p.topography) ||
+      !IsChoiceIndex(kGround, p.ground)) {
     return false;
   }
   if (Ntc2018IsVertical(p.type)) {
@@ -111,9 +109,7 @@ std::vector<SpectrumPoint> Ntc2018Spectrum(const Ntc2018Params& p) {
 }
 
 std::string Ntc2018Label(const Ntc2018Params& p) {
-  const char* g = IsIndex(p.ground, kNtc2018GroundTypes.size())
-                      ? kNtc2018GroundTypes[p.ground]
-                      : "";
+  const char* g = ChoiceValue(kNtc2018GroundTypes, p.ground, "");
   // Only the horizontal elastic label has blanks after its commas, as on
   // the charts engineers already have.
   switch (p.type) {
@@ -143,8 +139,8 @@ std::string Ntc2018Label(const Ntc2018Params& p) {
 bool GenerateNtc2018(CZELwDoc& doc, const Ntc2018Params& p,
                      MessageSink& messages) {
   CopyGridToDocument(p.grid, doc);
-  if (!IsIndex(p.type, kNtc2018Types.size())) {
-    return Refuse("The selection in 'Spectrum Type' is not valid", messages);
+  if (!CheckChoice(kNtc2018Types, p.type, "Spectrum Type", messages)) {
+    return false;
   }
   const bool elastic = Ntc2018IsElastic(p.type);
   // The code's own comparisons, in its order; a value that is not a

@@ -55,6 +55,14 @@ enum class CornerRule {
 bool StepsOverCorner(double t, double corner, double h, double e,
                      CornerRule rule);
 
+// Periods at or below 1e-6 s are moved to 1e-6 (single precision) so that
+// the T^(-2/3) and T^(-1/2) branches of the US and Korean building codes
+// stay finite.
+inline constexpr double kSmallestPeriod = 9.999999974752427e-7;
+constexpr double MoveAwayFromZero(double t) {
+  return t <= 1e-6 ? kSmallestPeriod : t;
+}
+
 struct SpectrumPoint {
   double period = 0.0;
   double sa = 0.0;

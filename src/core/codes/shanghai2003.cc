@@ -14,11 +14,6 @@ namespace {
 constexpr double kAlphaMax[2][3] = {{0.04, 0.08, 0.16}, {0.0, 0.45, 0.81}};
 constexpr double kFirstCorner = 0.1;
 
-template <std::size_t N>
-const char* NameOf(const std::array<const char*, N>& names, int index) {
-  return index >= 0 && index < static_cast<int>(N) ? names[index] : "";
-}
-
 }  // namespace
 
 double Shanghai2003Tg(int site, int effect) {
@@ -79,9 +74,10 @@ std::vector<SpectrumPoint> Shanghai2003Spectrum(const Shanghai2003Params& p) {
 
 std::string Shanghai2003Label(const Shanghai2003Params& p) {
   return CFormat("ChSh2003: Zone=%s, Site=%s, %s, Tg=%4.2fs, Damp.=%4.2f",
-                 NameOf(kShanghai2003Intensities, p.intensity),
-                 NameOf(kShanghai2003SiteClasses, p.site),
-                 NameOf(kShanghai2003Effects, p.effect), p.tg, p.damping);
+                 ChoiceValue(kShanghai2003Intensities, p.intensity, ""),
+                 ChoiceValue(kShanghai2003SiteClasses, p.site, ""),
+                 ChoiceValue(kShanghai2003Effects, p.effect, ""), p.tg,
+                 p.damping);
 }
 
 bool GenerateShanghai2003(CZELwDoc& doc, const Shanghai2003Params& p,

@@ -13,10 +13,8 @@ namespace {
 bool IsSoilIndex(int soil) { return IsChoiceIndex(kSoilFactors, soil); }
 
 bool CheckSoil(int soil, MessageSink& messages) {
-  return CheckChoice(soil, kSoilFactors.size(), "Soil Profile Type", messages);
+  return CheckChoice(kSoilFactors, soil, "Soil Profile Type", messages);
 }
-
-double MoveAwayFromZero(double t) { return t <= 1e-6 ? kSmallestPeriod : t; }
 
 // UBC 88-94 spectral shape C(T) for one soil factor: 1 + slope * T up to T1,
 // the 2.5 plateau up to T2, then numerator / T.

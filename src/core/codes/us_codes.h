@@ -19,9 +19,6 @@ inline constexpr std::array<double, 3> kSoilFactors = {1.0, 1.2000000476837158,
                                                        1.5};
 inline constexpr std::array<const char*, 3> kSoilFactorTexts = {
     "S1 (1.0)", "S2 (1.2)", "S3 (1.5)"};
-// Periods at or below 1e-6 s are moved to 1e-6 (single precision) so that
-// the T^(-2/3) branch stays finite.
-inline constexpr double kSmallestPeriod = 9.999999974752427e-7;
 
 inline constexpr char kAtc306Title[] = "ATC 3-06 Design Spectrum";
 inline constexpr char kUbc88Title[] = "UBC 88-94 Design Spectrum";

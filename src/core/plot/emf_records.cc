@@ -4,7 +4,6 @@
 #include <bit>
 #include <cstdlib>
 #include <limits>
-#include <tuple>
 
 namespace zel {
 namespace {
@@ -43,8 +42,7 @@ EmfRect BoundsOf(const std::vector<EmfPoint>& points) {
   return r;
 }
 
-bool Fits16(const std::vector<EmfPoint>& points) {
-  const EmfRect r = BoundsOf(points);
+bool Fits16(const EmfRect& r) {
   return r.left >= std::numeric_limits<std::int16_t>::min() &&
          r.top >= std::numeric_limits<std::int16_t>::min() &&
          r.right <= std::numeric_limits<std::int16_t>::max() &&
@@ -269,58 +267,35 @@ void EmfWriter::SetTextColour(const EmfColour& colour) {
 }
 
 void EmfWriter::SetClip(const EmfRect* rect) {
-  wanted_clipped_ = rect != nullptr;
-  if (rect != nullptr) wanted_clip_ = *rect;
+  wanted_clip_ = rect != nullptr ? std::optional<EmfRect>(*rect) : std::nullopt;
 }
 
 // The clip takes effect only when something is drawn in it, so that a
 // drawing state set and undone without drawing writes nothing.
 bool EmfWriter::Draws() {
   if (finished_) return false;
-  if (wanted_clipped_ == clipped_ &&
-      (!clipped_ ||
-       std::tie(wanted_clip_.left, wanted_clip_.top, wanted_clip_.right,
-                wanted_clip_.bottom) ==
-           std::tie(clip_.left, clip_.top, clip_.right, clip_.bottom))) {
-    return true;
-  }
+  if (wanted_clip_ == clip_) return true;
   // Back to the whole picture, then narrowed.
   std::size_t start = Begin(kEmrExtSelectClipRgn);
   U32(0);
   U32(kRgnCopy);
   End(start);
-  clipped_ = wanted_clipped_;
   clip_ = wanted_clip_;
-  if (clipped_) {
+  if (clip_) {
     start = Begin(kEmrIntersectClipRect);
-    Rect(clip_);
+    Rect(*clip_);
     End(start);
   }
   return true;
 }
 
-void EmfWriter::MoveTo(EmfPoint p) {
-  if (!Draws()) return;
-  const std::size_t start = Begin(kEmrMoveToEx);
-  I32(p.x);
-  I32(p.y);
-  End(start);
-}
-
-void EmfWriter::LineTo(EmfPoint p) {
-  if (!Draws()) return;
-  const std::size_t start = Begin(kEmrLineTo);
-  I32(p.x);
-  I32(p.y);
-  End(start);
-}
-
 void EmfWriter::Points(std::uint32_t type16, std::uint32_t type32,
                        const std::vector<EmfPoint>& points) {
   if (points.size() < 2 || !Draws()) return;
-  const bool small = Fits16(points);
+  const EmfRect bounds = BoundsOf(points);
+  const bool small = Fits16(bounds);
   const std::size_t start = Begin(small ? type16 : type32);
-  Rect(BoundsOf(points));
+  Rect(bounds);
   U32(static_cast<std::uint32_t>(points.size()));
   for (const EmfPoint& p : points) {
     if (small) {
@@ -342,19 +317,16 @@ void EmfWriter::Polygon(const std::vector<EmfPoint>& points) {
   Points(kEmrPolygon16, kEmrPolygon, points);
 }
 
-void EmfWriter::Rectangle(const EmfRect& box) {
+void EmfWriter::Box(std::uint32_t type, const EmfRect& box) {
   if (!Draws()) return;
-  const std::size_t start = Begin(kEmrRectangle);
+  const std::size_t start = Begin(type);
   Rect(box);
   End(start);
 }
 
-void EmfWriter::Ellipse(const EmfRect& box) {
-  if (!Draws()) return;
-  const std::size_t start = Begin(kEmrEllipse);
-  Rect(box);
-  End(start);
-}
+void EmfWriter::Rectangle(const EmfRect& box) { Box(kEmrRectangle, box); }
+
+void EmfWriter::Ellipse(const EmfRect& box) { Box(kEmrEllipse, box); }
 
 void EmfWriter::TextOut(EmfPoint origin, const std::u16string& text,
                         const std::vector<std::int32_t>& advances) {

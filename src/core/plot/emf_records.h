@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,14 +29,12 @@ enum EmfRecordType : std::uint32_t {
   kEmrSetBkMode = 18,
   kEmrSetTextAlign = 22,
   kEmrSetTextColor = 24,
-  kEmrMoveToEx = 27,
   kEmrIntersectClipRect = 30,
   kEmrSelectObject = 37,
   kEmrCreateBrushIndirect = 39,
   kEmrDeleteObject = 40,
   kEmrEllipse = 42,
   kEmrRectangle = 43,
-  kEmrLineTo = 54,
   kEmrExtSelectClipRgn = 75,
   kEmrExtCreateFontIndirectW = 82,
   kEmrExtTextOutW = 84,
@@ -55,6 +54,7 @@ struct EmfRect {
   std::int32_t top = 0;
   std::int32_t right = 0;
   std::int32_t bottom = 0;
+  bool operator==(const EmfRect&) const = default;
 };
 
 struct EmfColour {
@@ -114,8 +114,6 @@ class EmfWriter {
   // Drawing is clipped to `rect`; `nullptr` clips to the whole picture.
   void SetClip(const EmfRect* rect);
 
-  void MoveTo(EmfPoint p);
-  void LineTo(EmfPoint p);
   // Polylines and polygons use 16-bit points whenever all of them fit.
   void Polyline(const std::vector<EmfPoint>& points);
   void Polygon(const std::vector<EmfPoint>& points);
@@ -147,6 +145,8 @@ class EmfWriter {
   void Simple(std::uint32_t type, std::uint32_t value);
   void Points(std::uint32_t type16, std::uint32_t type32,
               const std::vector<EmfPoint>& points);
+  // A record of one box: a rectangle or the ellipse inside it.
+  void Box(std::uint32_t type, const EmfRect& box);
   // A free object slot; when the table grows long, unselected objects are
   // deleted first.
   std::uint32_t NewHandle();
@@ -168,10 +168,8 @@ class EmfWriter {
   std::map<EmfFont, std::uint32_t> fonts_;
   std::uint32_t selected_[3] = {0, 0, 0};  // pen, brush, font; 0 for none
   EmfColour text_colour_;
-  bool clipped_ = false;  // as written
-  EmfRect clip_;
-  bool wanted_clipped_ = false;  // as last set
-  EmfRect wanted_clip_;
+  std::optional<EmfRect> clip_;         // as written; none: whole picture
+  std::optional<EmfRect> wanted_clip_;  // as last set
   bool finished_ = false;
 };
 
