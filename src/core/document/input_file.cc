@@ -71,7 +71,6 @@ InputFile InputFile::FromBytes(std::string bytes, std::string name) {
 }
 
 void InputFile::PutBack(std::string bytes) {
-  bytes.append(put_back_, put_back_offset_);
   put_back_ = std::move(bytes);
   put_back_offset_ = 0;
 }

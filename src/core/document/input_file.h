@@ -32,7 +32,8 @@ class InputFile {
   // after a read error.
   std::size_t Read(char* buffer, std::size_t size);
   // Makes `bytes` the next ones read, ahead of the rest of the file: a
-  // reader that looked at the beginning of a file hands it on unread.
+  // reader that looked at the beginning of a file hands it on unread. At
+  // most once a file.
   void PutBack(std::string bytes);
 
  private:

@@ -63,15 +63,14 @@ ReadResult ReadFormat(RecordFormat format, InputFile& file,
   }
 }
 
-// Detects the format of `file` and reads it into `out`; the head read for
-// detection is what `head` then holds.
-ReadResult DetectAndRead(InputFile& file, RecordBuilder& out,
-                         std::string& head) {
+// Reads the head of `file` into `head` and tells its format from it. kRead
+// with `format` set, or the failure or refusal after its message.
+ReadResult DetectFormat(InputFile& file, RecordBuilder& out, std::string& head,
+                        RecordFormat& format) {
   if (!ReadHead(file, head)) {
     out.messages().Show("an Error occurred while reading data !");
     return ReadResult::kFailed;
   }
-  RecordFormat format = RecordFormat::kDbs;
   int line = 0;
   Detection detection = DetectRecordFormat(head, format, line);
   // A file named .dbs that carries none of the other formats' headers is
@@ -92,9 +91,15 @@ ReadResult DetectAndRead(InputFile& file, RecordBuilder& out,
     case Detection::kKnown:
       break;
   }
+  return ReadResult::kRead;
+}
+
+// Reads `file`, whose `head` DetectFormat took, as `format` into `out`.
+ReadResult ReadDetected(InputFile& file, RecordFormat format, std::string head,
+                        RecordBuilder& out) {
   out.record().format = format;
   out.record().name = BaseName(file.name());
-  file.PutBack(head);
+  file.PutBack(std::move(head));
   const ReadResult result = ReadFormat(format, file, out);
   if (result == ReadResult::kRead && file.error() != 0) {
     out.messages().Show("an Error occurred while reading data !");
@@ -290,7 +295,11 @@ ReadResult ReadRecord(InputFile file, const RecordReading& reading,
     return ReadResult::kFailed;
   }
   std::string head;
-  const ReadResult result = DetectAndRead(file, out, head);
+  RecordFormat format = RecordFormat::kDbs;
+  ReadResult result = DetectFormat(file, out, head, format);
+  if (result == ReadResult::kRead) {
+    result = ReadDetected(file, format, std::move(head), out);
+  }
   if (result == ReadResult::kRead) record = std::move(out.record());
   return result;
 }
@@ -302,15 +311,19 @@ std::optional<RecordLayout> InspectRecordFile(InputFile file) {
   RecordBuilder out(file.name(), reading, ignored);
   std::string head;
   RecordLayout layout;
-  const ReadResult result = DetectAndRead(file, out, head);
-  layout.format = out.record().format;
+  if (DetectFormat(file, out, head, layout.format) != ReadResult::kRead) {
+    return std::nullopt;
+  }
   if (layout.format == RecordFormat::kPlainText) {
-    // Read or not, the columns are what the user is to choose from.
+    // The columns are what the user is to choose from; the head shows them.
     PlainTextLayout(head, layout);
     if (layout.columns.empty()) return std::nullopt;
     return layout;
   }
-  if (result != ReadResult::kRead) return std::nullopt;
+  if (ReadDetected(file, layout.format, std::move(head), out) !=
+      ReadResult::kRead) {
+    return std::nullopt;
+  }
   layout.channels = out.channels();
   return layout;
 }
