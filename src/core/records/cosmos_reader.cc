@@ -82,12 +82,9 @@ class CosmosReader {
 
 bool CosmosReader::Next(const char* expected) {
   if (lines_.Next()) return true;
-  result_ = out_.LineProblem(lines_);
-  if (result_ == ReadResult::kRead) {
-    result_ =
-        out_.Refuse("Header too short", lines_.number(),
-                    std::string(": the file ends before ") + expected + ".");
-  }
+  result_ =
+      out_.EndedEarly(lines_, "Header too short",
+                      std::string(": the file ends before ") + expected + ".");
   return false;
 }
 

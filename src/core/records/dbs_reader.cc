@@ -32,8 +32,7 @@ class DbsReader {
 bool DbsReader::Next(int& status) {
   status = tokens_.ReadToken(token_);
   if (tokens_.nul_line() != 0) {
-    out_.Refuse("Not a text file", tokens_.nul_line(),
-                " holds a NUL byte (UTF-16 or binary?).");
+    out_.RefuseNotText(tokens_.nul_line());
   } else if (tokens_.too_long()) {
     out_.Refuse(
         "Line too long", tokens_.line(),

@@ -36,9 +36,15 @@ class RecordBuilder {
   // ReadResult::kRefused.
   ReadResult Refuse(std::string_view what, int line,
                     std::string_view detail = "");
+  // The refusal of a file that holds a NUL byte on `line`.
+  ReadResult RefuseNotText(int line);
   // The refusal of a line `lines` could not take (a NUL byte, too long);
   // kRead when it took every line.
   ReadResult LineProblem(const TextLines& lines);
+  // After `lines` found no next line: its LineProblem, or else the refusal
+  // of a file that ends before what it announced.
+  ReadResult EndedEarly(const TextLines& lines, std::string_view what,
+                        std::string_view detail);
 
   // The channels of a file holding several, in file order. The one being
   // read is the one the user chose; a file that names none holds one.

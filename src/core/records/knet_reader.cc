@@ -77,10 +77,8 @@ ReadResult ReadKnet(TextLines& lines, RecordBuilder& out) {
   std::string header[kHeaderLines];
   for (std::string& text : header) {
     if (!lines.Next()) {
-      const ReadResult problem = out.LineProblem(lines);
-      if (problem != ReadResult::kRead) return problem;
-      return out.Refuse("Header too short", lines.number(),
-                        ": a K-NET record has 17 header lines.");
+      return out.EndedEarly(lines, "Header too short",
+                            ": a K-NET record has 17 header lines.");
     }
     const std::string_view line = lines.text();
     text = line.size() > kValueColumn ? Collapse(line.substr(kValueColumn))

@@ -59,10 +59,8 @@ ReadResult ReadPeer(TextLines& lines, RecordBuilder& out) {
   std::string header[4];
   for (std::string& text : header) {
     if (!lines.Next()) {
-      const ReadResult problem = out.LineProblem(lines);
-      if (problem != ReadResult::kRead) return problem;
-      return out.Refuse("Header too short", lines.number(),
-                        ": a PEER record has four header lines.");
+      return out.EndedEarly(lines, "Header too short",
+                            ": a PEER record has four header lines.");
     }
     text = lines.text();
   }

@@ -83,8 +83,7 @@ ReadResult DetectFormat(InputFile& file, RecordBuilder& out, std::string& head,
   }
   switch (detection) {
     case Detection::kNotText:
-      return out.Refuse("Not a text file", line,
-                        " holds a NUL byte (UTF-16 or binary?).");
+      return out.RefuseNotText(line);
     case Detection::kUnknown:
       out.messages().Show(UnknownFormatMessage(out.file_name()));
       return ReadResult::kRefused;
@@ -119,11 +118,15 @@ ReadResult RecordBuilder::Refuse(std::string_view what, int line,
   return ReadResult::kRefused;
 }
 
+ReadResult RecordBuilder::RefuseNotText(int line) {
+  return Refuse("Not a text file", line,
+                " holds a NUL byte (UTF-16 or binary?).");
+}
+
 ReadResult RecordBuilder::LineProblem(const TextLines& lines) {
   switch (lines.problem()) {
     case TextLines::Problem::kNul:
-      return Refuse("Not a text file", lines.number(),
-                    " holds a NUL byte (UTF-16 or binary?).");
+      return RefuseNotText(lines.number());
     case TextLines::Problem::kTooLong:
       return Refuse("Line too long", lines.number(),
                     CFormat(": a line may have at most %zu characters.",
@@ -132,6 +135,14 @@ ReadResult RecordBuilder::LineProblem(const TextLines& lines) {
       break;
   }
   return ReadResult::kRead;
+}
+
+ReadResult RecordBuilder::EndedEarly(const TextLines& lines,
+                                     std::string_view what,
+                                     std::string_view detail) {
+  const ReadResult problem = LineProblem(lines);
+  if (problem != ReadResult::kRead) return problem;
+  return Refuse(what, lines.number(), detail);
 }
 
 bool RecordBuilder::SetTimeStep(double seconds, int line) {
@@ -261,10 +272,8 @@ ReadResult ReadFixedValues(TextLines& lines, RecordBuilder& out,
   std::size_t read = 0;
   while (read < count) {
     if (!lines.Next()) {
-      const ReadResult problem = out.LineProblem(lines);
-      if (problem != ReadResult::kRead) return problem;
-      return out.Refuse("Data end early", lines.number(),
-                        CFormat(": %zu of %zu values.", read, count));
+      return out.EndedEarly(lines, "Data end early",
+                            CFormat(": %zu of %zu values.", read, count));
     }
     const std::string_view line = lines.text();
     const std::size_t before = read;
