@@ -24,8 +24,6 @@ constexpr double kUnknown = -999.0;
 // Header values a block may announce.
 constexpr double kMaxHeaderValues = 10000.0;
 constexpr double kMaxTextLines = 1000.0;
-// Beyond any record; a count above it is refused before it is used.
-constexpr double kMaxPoints = 1e15;
 
 // COSMOS units codes of accelerations; false for codes of other
 // quantities (1 s, 5 cm/s, 6 cm, 50 counts, 51 volts, ...).
@@ -224,8 +222,7 @@ ReadResult CosmosReader::ReadBlock() {
   const std::string data_text(lines_.text());
   double points = 0.0;
   FortranFormat format;
-  if (!LeadingNumber(data_text, points) || points < 0.0 ||
-      points > kMaxPoints || points != std::floor(points) ||
+  if (!LeadingPointCount(data_text, points) ||
       !FindFortranFormat(data_text, format)) {
     return out_.Refuse("Data line not understood", data_line,
                        ": expected as \"8000 acceleration pts, ..., "
@@ -242,14 +239,9 @@ ReadResult CosmosReader::ReadBlock() {
         break;
       }
     }
-    out_.AddChannel(name);
-    chosen = out_.InChosenChannel();
+    chosen = out_.AddDescribedChannel(name, text_, 1, 4);
   }
   if (chosen) {
-    Record& record = out_.record();
-    record.event = text_.size() > 1 ? Collapse(text_[1]) : "";
-    record.station = text_.size() > 4 ? Collapse(text_[4]) : "";
-    record.component = out_.channels().back();
     AccelUnit unit;
     if (!Unit(data_text, integers, unit)) {
       return out_.Refuse("Unit not understood", data_line,
@@ -261,10 +253,7 @@ ReadResult CosmosReader::ReadBlock() {
       return ReadResult::kRefused;
     }
   }
-  return ReadFixedValues(lines_, out_, static_cast<std::size_t>(points), format,
-                         [&](double value, int line) {
-                           return !chosen || out_.Add(value * factor, line);
-                         });
+  return ReadBlockValues(lines_, out_, points, format, chosen, factor);
 }
 
 ReadResult CosmosReader::Read() {
@@ -277,13 +266,8 @@ ReadResult CosmosReader::Read() {
     if (block != ReadResult::kRead) return block;
     last = lines_.number();
   }
-  const ReadResult problem = out_.LineProblem(lines_);
-  if (problem != ReadResult::kRead) return problem;
-  if (out_.channels().empty()) {
-    return out_.Refuse("No acceleration data", lines_.number(),
-                       ": the file holds no acceleration block.");
-  }
-  return out_.Finish(last);
+  return out_.FinishChannels(lines_, last,
+                             ": the file holds no acceleration block.");
 }
 
 }  // namespace

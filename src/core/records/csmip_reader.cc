@@ -9,7 +9,6 @@
 // give no format and mean eight fields of ten. Only the acceleration block
 // is a record.
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <vector>
 
@@ -22,7 +21,6 @@ namespace {
 constexpr FortranFormat kOldFormat{8, 10};
 // Lines of a channel's text header kept for its description.
 constexpr std::size_t kTextLines = 40;
-constexpr double kMaxPoints = 1e15;
 
 enum class Block { kNone, kAcceleration, kOther };
 
@@ -114,8 +112,7 @@ ReadResult CsmipReader::ReadBlock(Block block) {
   const int line = lines_.number();
   const std::string text(lines_.text());
   double points = 0.0;
-  if (!LeadingNumber(text, points) || points < 0.0 || points > kMaxPoints ||
-      points != std::floor(points)) {
+  if (!LeadingPointCount(text, points)) {
     return out_.Refuse("Point count not found", line, ": " + Collapse(text));
   }
   FortranFormat format = kOldFormat;
@@ -123,14 +120,9 @@ ReadResult CsmipReader::ReadBlock(Block block) {
   bool chosen = false;
   double factor = 1.0;
   if (block == Block::kAcceleration) {
-    out_.AddChannel(ChannelName());
-    chosen = out_.InChosenChannel();
+    chosen = out_.AddDescribedChannel(ChannelName(), text_, 1, 2);
   }
   if (chosen) {
-    Record& record = out_.record();
-    record.event = text_.size() > 1 ? Collapse(text_[1]) : "";
-    record.station = text_.size() > 2 ? Collapse(text_[2]) : "";
-    record.component = out_.channels().back();
     double dt;
     if (!StepOf(text, dt)) {
       return out_.Refuse("Time step not found", line, ": " + Collapse(text));
@@ -142,10 +134,7 @@ ReadResult CsmipReader::ReadBlock(Block block) {
     }
     factor = GravitiesPer(unit);
   }
-  return ReadFixedValues(lines_, out_, static_cast<std::size_t>(points), format,
-                         [&](double value, int at) {
-                           return !chosen || out_.Add(value * factor, at);
-                         });
+  return ReadBlockValues(lines_, out_, points, format, chosen, factor);
 }
 
 ReadResult CsmipReader::Read() {
@@ -165,13 +154,8 @@ ReadResult CsmipReader::Read() {
     if (result != ReadResult::kRead) return result;
     last = lines_.number();
   }
-  const ReadResult problem = out_.LineProblem(lines_);
-  if (problem != ReadResult::kRead) return problem;
-  if (out_.channels().empty()) {
-    return out_.Refuse("No acceleration data", lines_.number(),
-                       ": the file announces no acceleration block.");
-  }
-  return out_.Finish(last);
+  return out_.FinishChannels(lines_, last,
+                             ": the file announces no acceleration block.");
 }
 
 }  // namespace

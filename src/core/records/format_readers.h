@@ -54,6 +54,14 @@ class RecordBuilder {
   bool InChosenChannel() const {
     return static_cast<int>(channels_.size()) == reading_.choices.channel;
   }
+  // Adds an acceleration channel of a file that describes each channel in
+  // text lines. When it is the chosen one, the record's event and station
+  // are `text`'s lines `event_line` and `station_line` (from 0; none when
+  // there are fewer lines), collapsed, and its component the channel's
+  // name. Whether it is the chosen one.
+  bool AddDescribedChannel(std::string name,
+                           const std::vector<std::string>& text,
+                           std::size_t event_line, std::size_t station_line);
 
   // Evenly sampled records: the step in seconds as the file gives it, from
   // `line`. False after a message when it, or it times the time scale, is
@@ -78,6 +86,11 @@ class RecordBuilder {
   // without samples, says so when the record was cut to the capacity, and
   // sets the time step. kRead or kRefused.
   ReadResult Finish(int line);
+  // Ends a file of channels once `lines` found no next line: its
+  // LineProblem, the refusal of a file without an acceleration channel
+  // (`detail` telling why), or Finish at `last`.
+  ReadResult FinishChannels(const TextLines& lines, int last,
+                            std::string_view detail);
 
  private:
   bool AddValue(double g, int line);
@@ -102,6 +115,15 @@ class RecordBuilder {
 ReadResult ReadFixedValues(TextLines& lines, RecordBuilder& out,
                            std::size_t count, const FortranFormat& format,
                            const std::function<bool(double, int)>& take);
+// Whether `line` begins with a count of values a data block can announce:
+// a whole number, not negative and not beyond any record.
+bool LeadingPointCount(std::string_view line, double& points);
+// ReadFixedValues of a data block of `points` values: those of the chosen
+// channel, times `factor` giving g, are the record's samples; the others
+// are skipped.
+ReadResult ReadBlockValues(TextLines& lines, RecordBuilder& out, double points,
+                           const FortranFormat& format, bool chosen,
+                           double factor);
 
 // The largest factor a value in g is multiplied by to give a document's
 // acceleration unit (mm/s^2).

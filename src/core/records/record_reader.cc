@@ -266,6 +266,29 @@ ReadResult RecordBuilder::Finish(int line) {
   return ReadResult::kRead;
 }
 
+bool RecordBuilder::AddDescribedChannel(std::string name,
+                                        const std::vector<std::string>& text,
+                                        std::size_t event_line,
+                                        std::size_t station_line) {
+  AddChannel(std::move(name));
+  if (!InChosenChannel()) return false;
+  record_.event = text.size() > event_line ? Collapse(text[event_line]) : "";
+  record_.station =
+      text.size() > station_line ? Collapse(text[station_line]) : "";
+  record_.component = channels_.back();
+  return true;
+}
+
+ReadResult RecordBuilder::FinishChannels(const TextLines& lines, int last,
+                                         std::string_view detail) {
+  const ReadResult problem = LineProblem(lines);
+  if (problem != ReadResult::kRead) return problem;
+  if (channels_.empty()) {
+    return Refuse("No acceleration data", lines.number(), detail);
+  }
+  return Finish(last);
+}
+
 ReadResult ReadFixedValues(TextLines& lines, RecordBuilder& out,
                            std::size_t count, const FortranFormat& format,
                            const std::function<bool(double, int)>& take) {
@@ -294,6 +317,22 @@ ReadResult ReadFixedValues(TextLines& lines, RecordBuilder& out,
     }
   }
   return ReadResult::kRead;
+}
+
+bool LeadingPointCount(std::string_view line, double& points) {
+  // Beyond any record; a count above it is refused before it is used.
+  constexpr double kMaxPoints = 1e15;
+  return LeadingNumber(line, points) && points >= 0.0 && points <= kMaxPoints &&
+         points == std::floor(points);
+}
+
+ReadResult ReadBlockValues(TextLines& lines, RecordBuilder& out, double points,
+                           const FortranFormat& format, bool chosen,
+                           double factor) {
+  return ReadFixedValues(lines, out, static_cast<std::size_t>(points), format,
+                         [&](double value, int line) {
+                           return !chosen || out.Add(value * factor, line);
+                         });
 }
 
 ReadResult ReadRecord(InputFile file, const RecordReading& reading,
