@@ -61,13 +61,10 @@ ReadResult DbsReader::Read() {
     }
     const int line = tokens_.line();
     const double time = AtoF(token_) * scales.time;
-    if (!std::isfinite(time)) {
-      return out_.Refuse("Time is not a finite number", line, ".");
-    }
-    if (!samples.empty() && !(time > samples.back().time)) {
-      return out_.Refuse(
-          "Times must increase", line,
-          CFormat(": %g s follows %g s.", time, samples.back().time));
+    if (!out_.CheckTime(time, line) ||
+        (!samples.empty() &&
+         !out_.CheckTimeFollows(time, samples.back().time, line))) {
+      return ReadResult::kRefused;
     }
     samples.push_back({time, 0.0});
     if (samples.size() == 4) {
@@ -84,12 +81,9 @@ ReadResult DbsReader::Read() {
     }
     if (!Next(status)) return ReadResult::kRefused;
     // In g; the document's unit comes in when the record is stored.
-    const double value = AtoF(token_) * scales.amplitude;
-    if (!std::isfinite(value * kLargestGravity)) {
-      return out_.Refuse("Value is not a finite number", tokens_.line(),
-                         " (once scaled).");
+    if (!out_.ScaleValue(AtoF(token_), tokens_.line(), samples.back().value)) {
+      return ReadResult::kRefused;
     }
-    samples.back().value = value;
     // A value that ends the file still counts: the last line may lack its
     // line end.
     if (status != 1) break;
@@ -108,7 +102,8 @@ ReadResult DbsReader::Read() {
         CFormat(": %zu; the time step is known from the fourth sample on.",
                 samples.size()));
   }
-  if (out_.choices().channel != 1) return out_.Finish(tokens_.line());
+  const ReadResult channel = out_.ChannelProblem();
+  if (channel != ReadResult::kRead) return channel;
   if (cut) out_.messages().Show(kRecordCutMessage);
   Record& record = out_.record();
   record.samples = std::move(samples);

@@ -82,6 +82,17 @@ class RecordBuilder {
   // Samples offered so far, kept or not.
   std::size_t count() const { return count_; }
 
+  // The checks of a sample read at `line`, for readers that keep their own
+  // samples; each is false after its refusal. A time in seconds, scaled,
+  // must be finite and follow the one `before` it; a value in g is
+  // `scaled` by the amplitude scale and must stay finite in any unit.
+  bool CheckTime(double time, int line);
+  bool CheckTimeFollows(double time, double before, int line);
+  bool ScaleValue(double g, int line, double& scaled);
+  // The refusal of a channel choice the file does not hold; kRead when it
+  // holds the chosen channel.
+  ReadResult ChannelProblem();
+
   // Ends the record at `line`: refuses a wrong channel choice or a record
   // without samples, says so when the record was cut to the capacity, and
   // sets the time step. kRead or kRefused.

@@ -161,12 +161,40 @@ bool RecordBuilder::SetTimeStep(double seconds, int line) {
   return true;
 }
 
+bool RecordBuilder::CheckTime(double time, int line) {
+  if (std::isfinite(time)) return true;
+  Refuse("Time is not a finite number", line, ".");
+  return false;
+}
+
+bool RecordBuilder::CheckTimeFollows(double time, double before, int line) {
+  if (time > before) return true;
+  Refuse("Times must increase", line,
+         CFormat(": %g s follows %g s.", time, before));
+  return false;
+}
+
+bool RecordBuilder::ScaleValue(double g, int line, double& scaled) {
+  scaled = g * reading_.scales.amplitude;
+  if (std::isfinite(scaled * kLargestGravity)) return true;
+  Refuse("Value is not a finite number", line, " (once scaled).");
+  return false;
+}
+
+ReadResult RecordBuilder::ChannelProblem() {
+  const int channels =
+      channels_.empty() ? 1 : static_cast<int>(channels_.size());
+  const int chosen = reading_.choices.channel;
+  if (chosen >= 1 && chosen <= channels) return ReadResult::kRead;
+  messages_.Show(CFormat("Error : No channel %d! %s holds %d channel%s.",
+                         chosen, file_name_.c_str(), channels,
+                         channels == 1 ? "" : "s"));
+  return ReadResult::kRefused;
+}
+
 bool RecordBuilder::AddValue(double g, int line) {
-  const double value = g * reading_.scales.amplitude;
-  if (!std::isfinite(value * kLargestGravity)) {
-    Refuse("Value is not a finite number", line, " (once scaled).");
-    return false;
-  }
+  double value;
+  if (!ScaleValue(g, line, value)) return false;
   ++count_;
   if (count_ <= static_cast<std::size_t>(kRecordCapacity)) {
     record_.samples.back().value = value;
@@ -177,10 +205,7 @@ bool RecordBuilder::AddValue(double g, int line) {
 bool RecordBuilder::Add(double g, int line) {
   if (count_ < static_cast<std::size_t>(kRecordCapacity)) {
     const double time = static_cast<double>(count_) * step_;
-    if (!std::isfinite(time)) {
-      Refuse("Time is not a finite number", line, ".");
-      return false;
-    }
+    if (!CheckTime(time, line)) return false;
     record_.samples.push_back({time, 0.0});
   }
   return AddValue(g, line);
@@ -189,17 +214,10 @@ bool RecordBuilder::Add(double g, int line) {
 bool RecordBuilder::AddTimed(double seconds, double g, int line) {
   timed_ = true;
   const double time = seconds * reading_.scales.time;
-  if (!std::isfinite(time)) {
-    Refuse("Time is not a finite number", line, ".");
-    return false;
-  }
+  if (!CheckTime(time, line)) return false;
   if (count_ > 0) {
+    if (!CheckTimeFollows(time, last_time_, line)) return false;
     const double step = time - last_time_;
-    if (!(step > 0.0)) {
-      Refuse("Times must increase", line,
-             CFormat(": %g s follows %g s.", time, last_time_));
-      return false;
-    }
     if (count_ == 1) first_step_ = step;
     // Times written with few digits wander a little; a missing or doubled
     // sample moves them by a whole step.
@@ -235,15 +253,8 @@ bool RecordBuilder::AddValuesOf(std::string_view line, int number,
 }
 
 ReadResult RecordBuilder::Finish(int line) {
-  const int channels =
-      channels_.empty() ? 1 : static_cast<int>(channels_.size());
-  const int chosen = reading_.choices.channel;
-  if (chosen < 1 || chosen > channels) {
-    messages_.Show(CFormat("Error : No channel %d! %s holds %d channel%s.",
-                           chosen, file_name_.c_str(), channels,
-                           channels == 1 ? "" : "s"));
-    return ReadResult::kRefused;
-  }
+  const ReadResult channel = ChannelProblem();
+  if (channel != ReadResult::kRead) return channel;
   if (count_ == 0) {
     return Refuse("No data found", line, ": the record holds no values.");
   }
