@@ -22,14 +22,10 @@ ReadResult ReadPlainText(TextLines& lines, RecordBuilder& out) {
                       ": no line holds numbers only.");
   }
   const int first = lines.number();
-  const ImportChoices& choices = out.choices();
+  const ImportChoices choices = WithDefaultColumns(out.choices(), columns);
   const int count = static_cast<int>(columns);
-  const int time = choices.time_column != ImportChoices::kDefault
-                       ? choices.time_column
-                       : (count >= 2 ? 1 : 0);
-  const int accel = choices.accel_column != ImportChoices::kDefault
-                        ? choices.accel_column
-                        : (count >= 2 ? 2 : 1);
+  const int time = choices.time_column;
+  const int accel = choices.accel_column;
   if (accel < 1 || accel > count || time < 0 || time > count) {
     return out.Refuse("No such column", first,
                       CFormat(": the rows have %d column%s; time column %d, "

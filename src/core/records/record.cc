@@ -99,6 +99,16 @@ bool PlainUnitOfWord(const std::string& word, AccelUnit& unit) {
   return false;
 }
 
+ImportChoices WithDefaultColumns(ImportChoices choices, std::size_t count) {
+  if (choices.time_column == ImportChoices::kDefault) {
+    choices.time_column = count >= 2 ? 1 : 0;
+  }
+  if (choices.accel_column == ImportChoices::kDefault) {
+    choices.accel_column = count >= 2 ? 2 : 1;
+  }
+  return choices;
+}
+
 std::string RecordDescription(const Record& record) {
   std::string text;
   for (const std::string* part :

@@ -5,6 +5,7 @@
 #ifndef ZEL_CORE_RECORDS_RECORD_H_
 #define ZEL_CORE_RECORDS_RECORD_H_
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,6 +65,10 @@ struct ImportChoices {
   double time_step = 0.0;  // seconds, for text without times; 0: not given
   AccelUnit unit = AccelUnit::kG;
 };
+
+// `choices` with the columns left at kDefault set to the layout of rows of
+// `count` numbers.
+ImportChoices WithDefaultColumns(ImportChoices choices, std::size_t count);
 
 // Whether the record is read to be integrated or transformed, which needs
 // its time step.

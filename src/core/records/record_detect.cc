@@ -169,9 +169,7 @@ void PlainTextLayout(std::string_view head, RecordLayout& layout) {
       layout.columns.push_back("Column " + std::to_string(i));
     }
   }
-  layout.defaults = ImportChoices();
-  layout.defaults.time_column = count >= 2 ? 1 : 0;
-  layout.defaults.accel_column = count >= 2 ? 2 : 1;
+  layout.defaults = WithDefaultColumns(ImportChoices(), count);
 }
 
 }  // namespace zel
