@@ -81,6 +81,9 @@ class RecordBuilder {
                    std::size_t& taken);
   // Samples offered so far, kept or not.
   std::size_t count() const { return count_; }
+  // Counts `n` more samples that the document's capacity leaves out, once
+  // it is full.
+  void CountBeyondCapacity(std::size_t n) { count_ += n; }
 
   // The checks of a sample read at `line`, for readers that keep their own
   // samples; each is false after its refusal. A time in seconds, scaled,

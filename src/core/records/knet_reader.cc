@@ -138,9 +138,7 @@ ReadResult ReadKnet(TextLines& lines, RecordBuilder& out) {
       return ReadResult::kRefused;
     }
   }
-  for (std::size_t i = counts.size(); i < total; ++i) {
-    if (!out.Add(0.0, last)) return ReadResult::kRefused;  // counted only
-  }
+  out.CountBeyondCapacity(total - counts.size());
   return out.Finish(last);
 }
 
