@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "core/document/file_name.h"
+
 namespace zel {
 
 SaveKind SaveKindOfPath(std::string_view path) {
-  const std::size_t slash = path.find_last_of("/\\");
-  const std::string_view name =
-      slash == std::string_view::npos ? path : path.substr(slash + 1);
+  const std::string_view name = FileNameOf(path);
   const std::size_t dot = name.rfind('.');
   if (dot == std::string_view::npos) return SaveKind::kDataFile;
   const std::string_view ext = name.substr(dot + 1);

@@ -1,5 +1,6 @@
 #include "core/records/record_choice.h"
 
+#include "core/document/file_name.h"
 #include "core/records/record_catalog.h"
 
 namespace zel {
@@ -12,12 +13,7 @@ std::string CatalogCaptionText(int index) {
 }
 
 std::string ImportedRecordName(const std::string& path) {
-  // Either separator may end the folder: a path typed on another system
-  // still shows its bare file name.
-  const std::size_t slash = path.find_last_of("/\\");
-  const std::string title =
-      slash == std::string::npos ? path : path.substr(slash + 1);
-  return "User EQ : " + title;
+  return "User EQ : " + std::string(FileNameOf(path));
 }
 
 }  // namespace zel

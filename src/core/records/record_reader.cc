@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/document/c_format.h"
+#include "core/document/file_name.h"
 #include "core/records/format_readers.h"
 #include "core/records/record_detect.h"
 
@@ -15,12 +16,6 @@ const char* const kRecordCutMessage =
     "are used!";
 
 namespace {
-
-// The file's name without its folder, for the record's name.
-std::string BaseName(const std::string& path) {
-  const std::size_t slash = path.find_last_of("/\\");
-  return slash == std::string::npos ? path : path.substr(slash + 1);
-}
 
 bool IsDbsName(const std::string& path) {
   return path.size() >= 4 &&
@@ -97,7 +92,7 @@ ReadResult DetectFormat(InputFile& file, RecordBuilder& out, std::string& head,
 ReadResult ReadDetected(InputFile& file, RecordFormat format, std::string head,
                         RecordBuilder& out) {
   out.record().format = format;
-  out.record().name = BaseName(file.name());
+  out.record().name = FileNameOf(file.name());
   file.PutBack(std::move(head));
   const ReadResult result = ReadFormat(format, file, out);
   if (result == ReadResult::kRead && file.error() != 0) {
