@@ -10,7 +10,7 @@ packages=(
   libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-dev clang-format
   locales xvfb xauth
-  desktop-file-utils libxml2-utils dpkg-dev poppler-utils
+  desktop-file-utils libxml2-utils dpkg-dev file poppler-utils
 )
 
 sudo_cmd=()
